@@ -37,8 +37,8 @@ inline constexpr LogLabel SHARE_MANAGER_SERVICE_LABEL{"ShareManagerService", 0xD
 
 #define SHARE_LOG_SITE (::OHOS::Zelkon::LogSite{__FILE_NAME__, __LINE__, __FUNCTION__})
 
-#define SHARE_LOG_AT(label, level, site, fmt, ...)                                                                  \
-    ((void)HiLogPrint(LOG_CORE, level, (label).domain, (label).tag, "[%{public}s:%{public}d] %{public}s# " fmt,    \
+#define SHARE_LOG_AT(label, level, site, fmt, ...)                                                                     \
+    ((void)HiLogPrint(LOG_CORE, level, (label).domain, (label).tag, "[%{public}s:%{public}d] %{public}s# " fmt,        \
                       (site).file, (site).line, (site).function, ##__VA_ARGS__))
 
 #define SHARE_LOG(label, level, fmt, ...) SHARE_LOG_AT(label, level, SHARE_LOG_SITE, fmt, ##__VA_ARGS__)
@@ -49,24 +49,24 @@ inline constexpr LogLabel SHARE_MANAGER_SERVICE_LABEL{"ShareManagerService", 0xD
 #define SHARE_CLIENT_LOGI(fmt, ...) SHARE_LOG(::OHOS::Zelkon::SHARE_CLIENT_LABEL, LOG_INFO, fmt, ##__VA_ARGS__)
 #define SHARE_CLIENT_LOGE(fmt, ...) SHARE_LOG(::OHOS::Zelkon::SHARE_CLIENT_LABEL, LOG_ERROR, fmt, ##__VA_ARGS__)
 
-#define SHARE_MANAGER_CLIENT_LOGD(fmt, ...)                                                                        \
+#define SHARE_MANAGER_CLIENT_LOGD(fmt, ...)                                                                            \
     SHARE_LOG(::OHOS::Zelkon::SHARE_MANAGER_CLIENT_LABEL, LOG_DEBUG, fmt, ##__VA_ARGS__)
-#define SHARE_MANAGER_CLIENT_LOGI(fmt, ...)                                                                        \
+#define SHARE_MANAGER_CLIENT_LOGI(fmt, ...)                                                                            \
     SHARE_LOG(::OHOS::Zelkon::SHARE_MANAGER_CLIENT_LABEL, LOG_INFO, fmt, ##__VA_ARGS__)
-#define SHARE_MANAGER_CLIENT_LOGE(fmt, ...)                                                                        \
+#define SHARE_MANAGER_CLIENT_LOGE(fmt, ...)                                                                            \
     SHARE_LOG(::OHOS::Zelkon::SHARE_MANAGER_CLIENT_LABEL, LOG_ERROR, fmt, ##__VA_ARGS__)
 
 #define SHARE_PROXY_LOGD(fmt, ...) SHARE_LOG(::OHOS::Zelkon::SHARE_PROXY_LABEL, LOG_DEBUG, fmt, ##__VA_ARGS__)
 #define SHARE_PROXY_LOGI(fmt, ...) SHARE_LOG(::OHOS::Zelkon::SHARE_PROXY_LABEL, LOG_INFO, fmt, ##__VA_ARGS__)
 #define SHARE_PROXY_LOGE(fmt, ...) SHARE_LOG(::OHOS::Zelkon::SHARE_PROXY_LABEL, LOG_ERROR, fmt, ##__VA_ARGS__)
 
-#define SHARE_MANAGER_PROXY_LOGE(fmt, ...)                                                                         \
+#define SHARE_MANAGER_PROXY_LOGE(fmt, ...)                                                                             \
     SHARE_LOG(::OHOS::Zelkon::SHARE_MANAGER_PROXY_LABEL, LOG_ERROR, fmt, ##__VA_ARGS__)
 
 #define SHARE_STUB_LOGE(fmt, ...) SHARE_LOG(::OHOS::Zelkon::SHARE_STUB_LABEL, LOG_ERROR, fmt, ##__VA_ARGS__)
 
 #define SHARE_SERVICE_LOGE(fmt, ...) SHARE_LOG(::OHOS::Zelkon::SHARE_SERVICE_LABEL, LOG_ERROR, fmt, ##__VA_ARGS__)
-#define SHARE_MANAGER_SERVICE_LOGE(fmt, ...)                                                                       \
+#define SHARE_MANAGER_SERVICE_LOGE(fmt, ...)                                                                           \
     SHARE_LOG(::OHOS::Zelkon::SHARE_MANAGER_SERVICE_LABEL, LOG_ERROR, fmt, ##__VA_ARGS__)
 
 #endif // SHARE_LOG_H

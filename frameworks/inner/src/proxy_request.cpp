@@ -1,0 +1,69 @@
+#include "proxy_request.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+ProxyRequest::ProxyRequest(const RequestLabels& labels, const LogSite& site, const RequestTexts& texts) :
+    labels_(labels), site_(site), texts_(texts)
+{
+    SHARE_LOG_AT(labels_.texts, texts_.enterLevel, site_, "%{public}s", texts_.enter);
+}
+
+bool ProxyRequest::HasRemote(sptr<IRemoteObject> remote)
+{
+    remote_ = std::move(remote);
+    return Check(remote_ != nullptr, "Remote() return nullptr.");
+}
+
+bool ProxyRequest::WriteToken(const std::u16string& descriptor)
+{
+    return Check(data_.WriteInterfaceToken(descriptor), "Write descriptor failed");
+}
+
+bool ProxyRequest::Start(sptr<IRemoteObject> remote, const std::u16string& descriptor)
+{
+    return HasRemote(std::move(remote)) && WriteToken(descriptor);
+}
+
+bool ProxyRequest::Check(bool ok, const char* failureText)
+{
+    if (!ok) {
+        LogError(failureText);
+    }
+    return ok;
+}
+
+bool ProxyRequest::Transact(uint32_t code)
+{
+    MessageOption option(MessageOption::TF_SYNC, WAIT_TIME_SECONDS);
+    int32_t result = remote_->SendRequest(code, data_, reply_, option);
+    if (result != ERR_NONE) {
+        SHARE_LOG_AT(labels_.failures, LOG_ERROR, site_, "SendRequest is failed, error code: %{public}d", result);
+        return false;
+    }
+    return true;
+}
+
+bool ProxyRequest::Send(uint32_t code)
+{
+    if (!Transact(code)) {
+        return false;
+    }
+    LogExit();
+    return true;
+}
+
+void ProxyRequest::LogExit() const
+{
+    if (texts_.exit != nullptr) {
+        SHARE_LOG_AT(labels_.texts, texts_.exitLevel, site_, "%{public}s", texts_.exit);
+    }
+}
+
+void ProxyRequest::LogError(const char* text) const
+{
+    SHARE_LOG_AT(labels_.failures, LOG_ERROR, site_, "%{public}s", text);
+}
+
+} // namespace Zelkon
+} // namespace OHOS
