@@ -1,0 +1,71 @@
+/*
+ * A service stub for tests: it records the code of every request it receives and answers through a handler
+ * that the test scripts. Registered with the host system ability manager, it sits "in another process", so the
+ * library talks to it through a remote object, as on a device.
+ */
+#ifndef SCRIPTED_STUB_H
+#define SCRIPTED_STUB_H
+
+#include <functional>
+#include <mutex>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ipc_object_stub.h"
+#include "ipc_types.h"
+#include "message_option.h"
+#include "message_parcel.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+class ScriptedStub : public IPCObjectStub {
+public:
+    // Decodes one request and writes its reply; the result is what the caller's SendRequest returns.
+    using Handler = std::function<int(uint32_t code, MessageParcel& data, MessageParcel& reply)>;
+
+    explicit ScriptedStub(const std::u16string& descriptor) : IPCObjectStub(descriptor), descriptor_(descriptor) {}
+
+    // Without a handler the stub checks the token and answers true.
+    void SetHandler(Handler handler)
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        handler_ = std::move(handler);
+    }
+
+    std::vector<uint32_t> Codes() const
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        return codes_;
+    }
+
+    int OnRemoteRequest(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option) override
+    {
+        (void)option;
+        Handler handler;
+        {
+            std::lock_guard<std::mutex> lock(mutex_);
+            codes_.push_back(code);
+            handler = handler_;
+        }
+        if (handler) {
+            return handler(code, data, reply);
+        }
+        if (data.ReadInterfaceToken() != descriptor_) {
+            return ERR_INVALID_STATE;
+        }
+        return reply.WriteBool(true) ? ERR_NONE : ERR_INVALID_DATA;
+    }
+
+private:
+    const std::u16string descriptor_;
+    mutable std::mutex mutex_;
+    Handler handler_;
+    std::vector<uint32_t> codes_;
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // SCRIPTED_STUB_H
