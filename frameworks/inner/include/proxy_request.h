@@ -18,12 +18,13 @@ namespace OHOS {
 namespace Zelkon {
 
 // An operation's enter and exit lines. A null exit text means the operation has none, or logs its exit itself
-// with a value.
+// with a value. An operation that names itself in its failure lines gives the prefix ("GetAllUserList ").
 struct RequestTexts {
     const char* enter;
     LogLevel enterLevel;
     const char* exit;
     LogLevel exitLevel;
+    const char* failurePrefix = "";
 };
 
 // Who logs: the proxy's label for failures, and the label of the enter and exit lines (the same, except where an

@@ -38,7 +38,8 @@ bool ProxyRequest::Transact(uint32_t code)
     MessageOption option(MessageOption::TF_SYNC, WAIT_TIME_SECONDS);
     int32_t result = remote_->SendRequest(code, data_, reply_, option);
     if (result != ERR_NONE) {
-        SHARE_LOG_AT(labels_.failures, LOG_ERROR, site_, "SendRequest is failed, error code: %{public}d", result);
+        SHARE_LOG_AT(labels_.failures, LOG_ERROR, site_, "%{public}sSendRequest is failed, error code: %{public}d",
+                     texts_.failurePrefix, result);
         return false;
     }
     return true;
@@ -62,7 +63,7 @@ void ProxyRequest::LogExit() const
 
 void ProxyRequest::LogError(const char* text) const
 {
-    SHARE_LOG_AT(labels_.failures, LOG_ERROR, site_, "%{public}s", text);
+    SHARE_LOG_AT(labels_.failures, LOG_ERROR, site_, "%{public}s%{public}s", texts_.failurePrefix, text);
 }
 
 } // namespace Zelkon
