@@ -1,0 +1,45 @@
+/*
+ * Host: the remote object that stands for a local object living "in another process". Transactions cross the
+ * process boundary (the request and the reply are copied as the driver would), death recipients are kept, and
+ * the process can be killed, after which every recipient is told once on an IPC thread.
+ */
+#ifndef OHOS_IPC_IPC_OBJECT_PROXY_H
+#define OHOS_IPC_IPC_OBJECT_PROXY_H
+
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "iremote_object.h"
+
+namespace OHOS {
+
+class IPCObjectProxy : public IRemoteObject {
+public:
+    explicit IPCObjectProxy(const sptr<IRemoteObject>& target);
+    ~IPCObjectProxy() override;
+
+    int32_t GetObjectRefCount() override;
+    int SendRequest(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option) override;
+    bool IsObjectDead() const override;
+    bool AddDeathRecipient(const sptr<DeathRecipient>& recipient) override;
+    bool RemoveDeathRecipient(const sptr<DeathRecipient>& recipient) override;
+    int Dump(int fd, const std::vector<std::u16string>& args) override;
+
+    // The process of the target died: later requests fail with ERR_DEAD_OBJECT and the recipients are told.
+    void Kill();
+    void RefuseDeathRecipients(bool refuse);
+
+private:
+    sptr<IRemoteObject> Target() const;
+
+    mutable std::mutex mutex_;
+    sptr<IRemoteObject> target_;
+    bool dead_ = false;
+    bool refuseDeathRecipients_ = false;
+    std::vector<sptr<DeathRecipient>> recipients_;
+};
+
+} // namespace OHOS
+
+#endif // OHOS_IPC_IPC_OBJECT_PROXY_H

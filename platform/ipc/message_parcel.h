@@ -1,0 +1,80 @@
+/*
+ * The parcel of one transaction: a Parcel that also carries remote objects, file descriptors, the interface
+ * token and big raw data blocks in shared memory.
+ */
+#ifndef OHOS_IPC_MESSAGE_PARCEL_H
+#define OHOS_IPC_MESSAGE_PARCEL_H
+
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "parcel.h"
+#include "refbase.h"
+
+namespace OHOS {
+
+class IRemoteObject;
+
+class MessageParcel : public Parcel {
+public:
+    MessageParcel();
+    explicit MessageParcel(Allocator* allocator);
+    ~MessageParcel() override;
+
+    bool WriteRemoteObject(const sptr<IRemoteObject>& object);
+    // Succeeds only at the offset of a record written by WriteRemoteObject; the cursor stays put otherwise.
+    sptr<IRemoteObject> ReadRemoteObject();
+
+    // Carries a dup of fd; the parcel closes its copies when destroyed.
+    bool WriteFileDescriptor(int fd);
+    // A new dup of the carried descriptor (the caller owns it), or INVALID_FD.
+    int ReadFileDescriptor();
+    bool ContainFileDescriptors() const;
+
+    bool WriteInterfaceToken(std::u16string name);
+    std::u16string ReadInterfaceToken();
+    std::u16string GetInterfaceToken() const;
+
+    // Up to 32 KiB inline, above that in one shared-memory block per parcel (128 MiB at most).
+    bool WriteRawData(const void* data, size_t size);
+    const void* ReadRawData(size_t size);
+    const void* GetRawData() const;
+    size_t GetRawDataSize() const;
+    size_t GetRawDataCapacity() const;
+
+    bool WriteNoException();
+    int32_t ReadException();
+
+    static constexpr size_t MAX_INLINE_RAW_DATA_SIZE = 32768;
+    static constexpr size_t MAX_RAW_DATA_SIZE = 128 * 1024 * 1024;
+
+private:
+    friend class ProcessBoundary;
+
+    enum class CarriedKind { OBJECT, FD };
+    struct Carried {
+        CarriedKind kind;
+        sptr<IRemoteObject> object;
+        int fd;
+    };
+
+    bool WriteRecord(uint32_t type, uint64_t value, const Carried& carried);
+    const Carried* CarriedAtReadPosition(CarriedKind kind);
+    bool WriteSharedMemoryBlock(const void* data, size_t size);
+    const void* MapSharedMemoryBlock(size_t size);
+
+    std::u16string interfaceToken_;
+    // Keyed by the offset of each 24-byte record in the data.
+    std::map<size_t, Carried> carried_;
+    bool sharedBlockWritten_ = false;
+    std::vector<std::pair<void*, size_t>> mappings_;
+    const void* rawData_ = nullptr;
+    size_t rawDataSize_ = 0;
+};
+
+} // namespace OHOS
+
+#endif // OHOS_IPC_MESSAGE_PARCEL_H

@@ -1,0 +1,63 @@
+/*
+ * The system ability manager: registry of the system abilities of the device, and their on-demand loader.
+ */
+#ifndef OHOS_SAMGR_IF_SYSTEM_ABILITY_MANAGER_H
+#define OHOS_SAMGR_IF_SYSTEM_ABILITY_MANAGER_H
+
+#include <string>
+#include <vector>
+
+#include "iremote_broker.h"
+#include "iremote_object.h"
+#include "isystem_ability_load_callback.h"
+
+namespace OHOS {
+
+class ISystemAbilityManager : public IRemoteBroker {
+public:
+    DECLARE_INTERFACE_DESCRIPTOR(u"OHOS.ISystemAbilityManager");
+
+    static constexpr unsigned int DUMP_FLAG_PRIORITY_CRITICAL = 1 << 0;
+    static constexpr unsigned int DUMP_FLAG_PRIORITY_HIGH = 1 << 1;
+    static constexpr unsigned int DUMP_FLAG_PRIORITY_NORMAL = 1 << 2;
+    static constexpr unsigned int DUMP_FLAG_PRIORITY_DEFAULT = DUMP_FLAG_PRIORITY_NORMAL;
+    static constexpr unsigned int DUMP_FLAG_PRIORITY_ALL =
+        DUMP_FLAG_PRIORITY_CRITICAL | DUMP_FLAG_PRIORITY_HIGH | DUMP_FLAG_PRIORITY_NORMAL;
+
+    struct SAExtraProp {
+        SAExtraProp() = default;
+        SAExtraProp(bool isDistributed, unsigned int dumpFlags, const std::u16string& capability,
+                    const std::u16string& permission) :
+            isDistributed(isDistributed),
+            dumpFlags(dumpFlags), capability(capability), permission(permission)
+        {
+        }
+        bool isDistributed = false;
+        unsigned int dumpFlags = DUMP_FLAG_PRIORITY_DEFAULT;
+        std::u16string capability;
+        std::u16string permission;
+    };
+
+    virtual std::vector<std::u16string> ListSystemAbilities(unsigned int dumpFlags = DUMP_FLAG_PRIORITY_ALL) = 0;
+    // May wait for the ability to start; null if it does not.
+    virtual sptr<IRemoteObject> GetSystemAbility(int32_t systemAbilityId) = 0;
+    virtual sptr<IRemoteObject> GetSystemAbility(int32_t systemAbilityId, const std::string& deviceId) = 0;
+    // The running ability or null; never loads, never waits.
+    virtual sptr<IRemoteObject> CheckSystemAbility(int32_t systemAbilityId) = 0;
+    virtual sptr<IRemoteObject> CheckSystemAbility(int32_t systemAbilityId, const std::string& deviceId) = 0;
+    virtual sptr<IRemoteObject> CheckSystemAbility(int32_t systemAbilityId, bool& isExist) = 0;
+    virtual int32_t RemoveSystemAbility(int32_t systemAbilityId) = 0;
+    virtual int32_t AddSystemAbility(int32_t systemAbilityId, const sptr<IRemoteObject>& ability,
+                                     const SAExtraProp& extraProp = SAExtraProp()) = 0;
+    // Waits up to `timeout` seconds for the ability.
+    virtual sptr<IRemoteObject> LoadSystemAbility(int32_t systemAbilityId, int32_t timeout) = 0;
+    // 0 when accepted; the outcome arrives later through the callback, on an IPC thread.
+    virtual int32_t LoadSystemAbility(int32_t systemAbilityId, const sptr<ISystemAbilityLoadCallback>& callback) = 0;
+    virtual int32_t LoadSystemAbility(int32_t systemAbilityId, const std::string& deviceId,
+                                      const sptr<ISystemAbilityLoadCallback>& callback) = 0;
+    virtual int32_t UnloadSystemAbility(int32_t systemAbilityId) = 0;
+};
+
+} // namespace OHOS
+
+#endif // OHOS_SAMGR_IF_SYSTEM_ABILITY_MANAGER_H
