@@ -1,0 +1,95 @@
+#include "benchmark_fixtures.h"
+
+#include <chrono>
+#include <cstdint>
+#include <string>
+#include <thread>
+
+#include "ipc_object_stub.h"
+#include "iservice_registry.h"
+#include "parcel.h"
+#include "reply_stub.h"
+#include "share_client.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+ShareDeviceInfo FilledDevice()
+{
+    constexpr size_t avatarSize = 2048;
+    ShareDeviceInfo device;
+    device.deviceName = "Living room tablet";
+    device.norvaneIdName = "ada@example";
+    device.avatar = std::string(avatarSize, 'A');
+    device.colorId = 3;
+    device.eventCode = 101;
+    device.stateCode = 2;
+    device.percent = 57;
+    device.speed = 1200;
+    device.isDisappeared = true;
+    device.deviceType = 14;
+    device.deviceId = "udid-0042-7f3a-11ee";
+    device.nearbyVersion = 9;
+    device.lastSharedTime = 1700000000123LL;
+    device.isSameAccount = true;
+    device.contactInfo.contactKind = 2;
+    device.contactInfo.contactName = "Ada";
+    device.contactInfo.contactPhoto = "data:image/png;base64,AAAA";
+    device.isOHDevice = true;
+    device.deviceFounder = 0x80000001u;
+    device.concurentId = "concurrent-7";
+    device.extraValue = -5;
+    return device;
+}
+
+size_t WrittenSize(const ShareDeviceInfo& device)
+{
+    Parcel parcel;
+    device.Marshalling(parcel);
+    return parcel.GetDataSize();
+}
+
+namespace {
+constexpr int32_t SHARE_SA_ID = 65569;
+constexpr int32_t MANAGER_SA_ID = 65570;
+constexpr uint8_t TRUE_REPLY[] = {1, 0, 0, 0};
+
+class SlowStub : public IPCObjectStub {
+public:
+    SlowStub() : IPCObjectStub(u"ohos.Zelkon.IWidgetService") {}
+    int OnRemoteRequest(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option) override
+    {
+        (void)code;
+        (void)data;
+        (void)option;
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        return reply.WriteBool(true) ? ERR_NONE : ERR_INVALID_DATA;
+    }
+};
+
+sptr<ISystemAbilityManager> Manager()
+{
+    return SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
+}
+} // namespace
+
+sptr<IRemoteObject> FastShareService()
+{
+    static const sptr<IRemoteObject> remote = [] {
+        sptr<ReplyStub> stub(new ReplyStub(u"ohos.Zelkon.ZelkonService"));
+        stub->AnswerWith(TRUE_REPLY, sizeof(TRUE_REPLY), false);
+        Manager()->AddSystemAbility(SHARE_SA_ID, stub);
+        ShareClient::GetInstance().Connect();
+        return Manager()->CheckSystemAbility(SHARE_SA_ID);
+    }();
+    return remote;
+}
+
+void SlowManagerService()
+{
+    static const bool added = Manager()->AddSystemAbility(MANAGER_SA_ID, new SlowStub()) == 0;
+    (void)added;
+}
+
+} // namespace Zelkon
+} // namespace OHOS
