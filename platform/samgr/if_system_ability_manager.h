@@ -48,7 +48,8 @@ public:
     virtual sptr<IRemoteObject> CheckSystemAbility(int32_t systemAbilityId, bool& isExist) = 0;
     virtual int32_t RemoveSystemAbility(int32_t systemAbilityId) = 0;
     virtual int32_t AddSystemAbility(int32_t systemAbilityId, const sptr<IRemoteObject>& ability,
-                                     const SAExtraProp& extraProp = SAExtraProp()) = 0;
+                                     const SAExtraProp& extraProp = SAExtraProp(false, DUMP_FLAG_PRIORITY_DEFAULT, u"",
+                                                                                u"")) = 0;
     // Waits up to `timeout` seconds for the ability.
     virtual sptr<IRemoteObject> LoadSystemAbility(int32_t systemAbilityId, int32_t timeout) = 0;
     // 0 when accepted; the outcome arrives later through the callback, on an IPC thread.

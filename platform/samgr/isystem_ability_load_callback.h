@@ -15,6 +15,13 @@ class ISystemAbilityLoadCallback : public IRemoteBroker {
 public:
     DECLARE_INTERFACE_DESCRIPTOR(u"OHOS.ISystemAbilityLoadCallback");
 
+    enum {
+        ON_LOAD_SYSTEM_ABILITY_SUCCESS = 1,
+        ON_LOAD_SYSTEM_ABILITY_FAIL = 2,
+        ON_LOAD_SYSTEM_ABILITY_COMPLETE_FOR_REMOTE = 3,
+        ON_LOAD_SYSTEM_ABILITY_FAIL_WITH_ERRCODE = 4,
+    };
+
     virtual void OnLoadSystemAbilitySuccess(int32_t systemAbilityId, const sptr<IRemoteObject>& remoteObject)
     {
         (void)systemAbilityId;
@@ -33,14 +40,6 @@ public:
         (void)systemAbilityId;
         (void)remoteObject;
     }
-
-protected:
-    enum {
-        ON_LOAD_SYSTEM_ABILITY_SUCCESS = 1,
-        ON_LOAD_SYSTEM_ABILITY_FAIL = 2,
-        ON_LOAD_SYSTEM_ABILITY_COMPLETE_FOR_REMOTE = 3,
-        ON_LOAD_SYSTEM_ABILITY_FAIL_WITH_ERRCODE = 4,
-    };
 };
 
 } // namespace OHOS

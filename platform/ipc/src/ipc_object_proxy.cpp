@@ -1,0 +1,137 @@
+#include "ipc_object_proxy.h"
+
+#include <algorithm>
+#include <memory>
+
+#include "ipc_log.h"
+#include "ipc_threads.h"
+#include "process_boundary.h"
+
+namespace OHOS {
+
+IPCObjectProxy::IPCObjectProxy(const sptr<IRemoteObject>& target) :
+    IRemoteObject(target != nullptr ? target->GetObjectDescriptor() : std::u16string()), target_(target)
+{
+}
+
+IPCObjectProxy::~IPCObjectProxy() = default;
+
+sptr<IRemoteObject> IPCObjectProxy::Target() const
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return dead_ ? nullptr : target_;
+}
+
+int32_t IPCObjectProxy::GetObjectRefCount()
+{
+    sptr<IRemoteObject> target = Target();
+    return target != nullptr ? target->GetObjectRefCount() : 0;
+}
+
+int IPCObjectProxy::SendRequest(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option)
+{
+    if (code > LAST_CALL_TRANSACTION) {
+        IPC_HOST_LOGE("invalid code %{public}u", code);
+        return IPC_PROXY_INVALID_CODE_ERR;
+    }
+    sptr<IRemoteObject> target = Target();
+    if (target == nullptr) {
+        IPC_HOST_LOGW("code %{public}u sent to a dead object", code);
+        return ERR_DEAD_OBJECT;
+    }
+    auto request = std::make_shared<MessageParcel>();
+    if (!ProcessBoundary::Copy(data, *request)) {
+        return ERR_FLATTEN_OBJECT;
+    }
+    if ((option.GetFlags() & MessageOption::TF_ASYNC) != 0) {
+        // One-way: the other process handles it on one of its IPC threads; nothing comes back.
+        IpcThreads::Post([target, code, request, option]() mutable {
+            MessageParcel ignored;
+            target->SendRequest(code, *request, ignored, option);
+        });
+        return ERR_NONE;
+    }
+    MessageParcel answer;
+    const int result = target->SendRequest(code, *request, answer, option);
+    if (result != ERR_NONE) {
+        return result;
+    }
+    return ProcessBoundary::Copy(answer, reply) ? ERR_NONE : ERR_INVALID_REPLY;
+}
+
+bool IPCObjectProxy::IsObjectDead() const
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return dead_;
+}
+
+bool IPCObjectProxy::AddDeathRecipient(const sptr<DeathRecipient>& recipient)
+{
+    if (recipient == nullptr) {
+        return false;
+    }
+    std::lock_guard<std::mutex> lock(mutex_);
+    if (dead_ || refuseDeathRecipients_) {
+        IPC_HOST_LOGE("death recipient refused (dead %{public}d)", dead_);
+        return false;
+    }
+    recipients_.push_back(recipient);
+    return true;
+}
+
+bool IPCObjectProxy::RemoveDeathRecipient(const sptr<DeathRecipient>& recipient)
+{
+    if (recipient == nullptr) {
+        return false;
+    }
+    std::lock_guard<std::mutex> lock(mutex_);
+    if (dead_) {
+        return false;
+    }
+    auto it = std::find(recipients_.begin(), recipients_.end(), recipient);
+    if (it == recipients_.end()) {
+        return false;
+    }
+    recipients_.erase(it);
+    return true;
+}
+
+int IPCObjectProxy::Dump(int fd, const std::vector<std::u16string>& args)
+{
+    sptr<IRemoteObject> target = Target();
+    return target != nullptr ? target->Dump(fd, args) : ERR_DEAD_OBJECT;
+}
+
+void IPCObjectProxy::Kill()
+{
+    std::vector<sptr<DeathRecipient>> recipients;
+    sptr<IRemoteObject> target;
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        if (dead_) {
+            return;
+        }
+        dead_ = true;
+        recipients.swap(recipients_);
+        target = target_;
+        target_ = nullptr;
+    }
+    if (recipients.empty()) {
+        return;
+    }
+    sptr<IPCObjectProxy> self = this;
+    IpcThreads::Post([self, recipients] {
+        const wptr<IRemoteObject> object(static_cast<IRemoteObject*>(self.GetRefPtr()));
+        for (const sptr<DeathRecipient>& recipient : recipients) {
+            recipient->OnRemoteDied(object);
+        }
+    });
+}
+
+void IPCObjectProxy::RefuseDeathRecipients(bool refuse)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    refuseDeathRecipients_ = refuse;
+}
+
+} // namespace OHOS

@@ -1,0 +1,276 @@
+#include "message_parcel.h"
+
+#include <cstring>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "ipc_log.h"
+#include "ipc_types.h"
+#include "iremote_object.h"
+
+namespace OHOS {
+namespace {
+constexpr uint32_t BINDER_TYPE_BINDER = 0x73622a85;
+constexpr uint32_t BINDER_TYPE_HANDLE = 0x73682a85;
+constexpr uint32_t BINDER_TYPE_FD = 0x66642a85;
+constexpr uint32_t RECORD_FLAGS = 0x17f;
+constexpr size_t RECORD_SIZE = 24;
+constexpr int32_t STRICT_MODE_POLICY = 0x100;
+constexpr int32_t WORK_SOURCE = 0;
+
+uint32_t RecordTypeAt(const uint8_t* data, size_t offset)
+{
+    uint32_t type = 0;
+    std::memcpy(&type, data + offset, sizeof(type));
+    return type;
+}
+} // namespace
+
+MessageParcel::MessageParcel() = default;
+
+MessageParcel::MessageParcel(Allocator* allocator) : Parcel(allocator) {}
+
+MessageParcel::~MessageParcel()
+{
+    for (const auto& [offset, carried] : carried_) {
+        if (carried.kind == CarriedKind::FD) {
+            close(carried.fd);
+        }
+    }
+    for (const auto& [address, size] : mappings_) {
+        munmap(address, size);
+    }
+}
+
+bool MessageParcel::WriteRecord(uint32_t type, uint64_t value, const Carried& carried)
+{
+    const size_t start = GetWritePosition();
+    if (!(WriteUint32(type) && WriteUint32(RECORD_FLAGS) && WriteUint64(value) && WriteUint64(0))) {
+        RewindWrite(start);
+        return false;
+    }
+    carried_[start] = carried;
+    return true;
+}
+
+const MessageParcel::Carried* MessageParcel::CarriedAtReadPosition(CarriedKind kind)
+{
+    const size_t position = GetReadPosition();
+    auto it = carried_.find(position);
+    if (it == carried_.end() || it->second.kind != kind || GetReadableBytes() < RECORD_SIZE) {
+        return nullptr;
+    }
+    // The bytes may have been rewritten since (RewindWrite); the record must still be there.
+    const uint32_t type = RecordTypeAt(reinterpret_cast<const uint8_t*>(GetData()), position);
+    const bool objectRecord = type == BINDER_TYPE_BINDER || type == BINDER_TYPE_HANDLE;
+    if (kind == CarriedKind::OBJECT ? !objectRecord : type != BINDER_TYPE_FD) {
+        return nullptr;
+    }
+    return &it->second;
+}
+
+bool MessageParcel::WriteRemoteObject(const sptr<IRemoteObject>& object)
+{
+    if (object == nullptr) {
+        return false;
+    }
+    const uint32_t type = object->IsProxyObject() ? BINDER_TYPE_HANDLE : BINDER_TYPE_BINDER;
+    return WriteRecord(type, 0, Carried{CarriedKind::OBJECT, object, INVALID_FD});
+}
+
+sptr<IRemoteObject> MessageParcel::ReadRemoteObject()
+{
+    const Carried* carried = CarriedAtReadPosition(CarriedKind::OBJECT);
+    if (carried == nullptr) {
+        return nullptr;
+    }
+    sptr<IRemoteObject> object = carried->object;
+    SkipBytes(RECORD_SIZE);
+    return object;
+}
+
+bool MessageParcel::WriteFileDescriptor(int fd)
+{
+    if (fd < 0) {
+        return false;
+    }
+    const int copy = dup(fd);
+    if (copy < 0) {
+        IPC_HOST_LOGE("dup of fd %{public}d failed, errno %{public}d", fd, errno);
+        return false;
+    }
+    if (!WriteRecord(BINDER_TYPE_FD, static_cast<uint64_t>(copy), Carried{CarriedKind::FD, nullptr, copy})) {
+        close(copy);
+        return false;
+    }
+    return true;
+}
+
+int MessageParcel::ReadFileDescriptor()
+{
+    const Carried* carried = CarriedAtReadPosition(CarriedKind::FD);
+    if (carried == nullptr) {
+        return INVALID_FD;
+    }
+    const int copy = dup(carried->fd);
+    if (copy < 0) {
+        IPC_HOST_LOGE("dup of carried fd failed, errno %{public}d", errno);
+        return INVALID_FD;
+    }
+    SkipBytes(RECORD_SIZE);
+    return copy;
+}
+
+bool MessageParcel::ContainFileDescriptors() const
+{
+    for (const auto& [offset, carried] : carried_) {
+        if (carried.kind == CarriedKind::FD) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool MessageParcel::WriteInterfaceToken(std::u16string name)
+{
+    const size_t start = GetWritePosition();
+    if (!WriteInt32(STRICT_MODE_POLICY)) {
+        return false;
+    }
+    if (!WriteInt32(WORK_SOURCE)) {
+        RewindWrite(start);
+        return false;
+    }
+    interfaceToken_ = name;
+    return WriteString16(name);
+}
+
+std::u16string MessageParcel::ReadInterfaceToken()
+{
+    ReadInt32();
+    ReadInt32();
+    return ReadString16();
+}
+
+std::u16string MessageParcel::GetInterfaceToken() const
+{
+    return interfaceToken_;
+}
+
+bool MessageParcel::WriteRawData(const void* data, size_t size)
+{
+    if (data == nullptr || size == 0 || size > MAX_RAW_DATA_SIZE) {
+        IPC_HOST_LOGE("refused raw data of %{public}zu bytes", size);
+        return false;
+    }
+    if (sharedBlockWritten_) {
+        IPC_HOST_LOGE("a shared raw data block was already written to this parcel");
+        return false;
+    }
+    if (!WriteInt32(static_cast<int32_t>(size))) {
+        return false;
+    }
+    if (size <= MAX_INLINE_RAW_DATA_SIZE) {
+        return WriteUnpadBuffer(data, size);
+    }
+    return WriteSharedMemoryBlock(data, size);
+}
+
+bool MessageParcel::WriteSharedMemoryBlock(const void* data, size_t size)
+{
+    const int fd = memfd_create("RawData", MFD_CLOEXEC);
+    if (fd < 0) {
+        IPC_HOST_LOGE("memfd_create failed, errno %{public}d", errno);
+        return false;
+    }
+    if (ftruncate(fd, static_cast<off_t>(size)) != 0) {
+        IPC_HOST_LOGE("ftruncate to %{public}zu failed, errno %{public}d", size, errno);
+        close(fd);
+        return false;
+    }
+    void* writable = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED, fd, 0);
+    if (writable == MAP_FAILED) {
+        IPC_HOST_LOGE("mmap of %{public}zu bytes failed, errno %{public}d", size, errno);
+        close(fd);
+        return false;
+    }
+    std::memcpy(writable, data, size);
+    if (!WriteRecord(BINDER_TYPE_FD, static_cast<uint64_t>(fd), Carried{CarriedKind::FD, nullptr, fd})) {
+        munmap(writable, size);
+        close(fd);
+        return false;
+    }
+    sharedBlockWritten_ = true;
+    mappings_.emplace_back(writable, size);
+    rawData_ = writable;
+    rawDataSize_ = size;
+    return true;
+}
+
+const void* MessageParcel::ReadRawData(size_t size)
+{
+    if (size == 0) {
+        return nullptr;
+    }
+    const int32_t writtenSize = ReadInt32();
+    if (writtenSize < 0 || static_cast<size_t>(writtenSize) != size) {
+        IPC_HOST_LOGE("raw data size %{public}d does not match the expected %{public}zu", writtenSize, size);
+        return nullptr;
+    }
+    if (size <= MAX_INLINE_RAW_DATA_SIZE) {
+        return ReadUnpadBuffer(size);
+    }
+    return MapSharedMemoryBlock(size);
+}
+
+const void* MessageParcel::MapSharedMemoryBlock(size_t size)
+{
+    const Carried* carried = CarriedAtReadPosition(CarriedKind::FD);
+    if (carried == nullptr) {
+        IPC_HOST_LOGE("no shared memory block at the read position");
+        return nullptr;
+    }
+    struct stat status {};
+    if (fstat(carried->fd, &status) != 0 || status.st_size < 0 || static_cast<size_t>(status.st_size) < size) {
+        IPC_HOST_LOGE("shared memory block is smaller than %{public}zu bytes", size);
+        return nullptr;
+    }
+    void* mapping = mmap(nullptr, size, PROT_READ, MAP_SHARED, carried->fd, 0);
+    if (mapping == MAP_FAILED) {
+        IPC_HOST_LOGE("mmap of %{public}zu bytes failed, errno %{public}d", size, errno);
+        return nullptr;
+    }
+    SkipBytes(RECORD_SIZE);
+    mappings_.emplace_back(mapping, size);
+    rawData_ = mapping;
+    rawDataSize_ = size;
+    return mapping;
+}
+
+const void* MessageParcel::GetRawData() const
+{
+    return rawData_;
+}
+
+size_t MessageParcel::GetRawDataSize() const
+{
+    return rawDataSize_;
+}
+
+size_t MessageParcel::GetRawDataCapacity() const
+{
+    return MAX_RAW_DATA_SIZE;
+}
+
+bool MessageParcel::WriteNoException()
+{
+    return WriteInt32(0);
+}
+
+int32_t MessageParcel::ReadException()
+{
+    return ReadInt32();
+}
+
+} // namespace OHOS

@@ -1,0 +1,87 @@
+#include "system_ability_load_callback_stub.h"
+
+#include "samgr_log.h"
+#include "system_ability_definition.h"
+
+namespace OHOS {
+
+bool SystemAbilityLoadCallbackStub::CheckInputSystemAbilityId(int32_t systemAbilityId)
+{
+    return systemAbilityId >= SAMGR_SA_ID && systemAbilityId <= LAST_SYS_ABILITY_ID;
+}
+
+int32_t SystemAbilityLoadCallbackStub::OnRemoteRequest(uint32_t code, MessageParcel& data, MessageParcel& reply,
+                                                       MessageOption& option)
+{
+    if (data.ReadInterfaceToken() != GetDescriptor()) {
+        SAMGR_HOST_LOGW("interface token mismatch, code %{public}u", code);
+        return ERR_PERMISSION_DENIED;
+    }
+    switch (code) {
+    case ON_LOAD_SYSTEM_ABILITY_SUCCESS:
+        return OnLoadSystemAbilitySuccessInner(data, reply);
+    case ON_LOAD_SYSTEM_ABILITY_FAIL:
+        return OnLoadSystemAbilityFailInner(data, reply);
+    case ON_LOAD_SYSTEM_ABILITY_COMPLETE_FOR_REMOTE:
+        return OnLoadSACompleteForRemoteInner(data, reply);
+    case ON_LOAD_SYSTEM_ABILITY_FAIL_WITH_ERRCODE:
+        return OnLoadSystemAbilityFailWithCodeInner(data, reply);
+    default:
+        SAMGR_HOST_LOGW("unknown code %{public}u", code);
+        return IPCObjectStub::OnRemoteRequest(code, data, reply, option);
+    }
+}
+
+int32_t SystemAbilityLoadCallbackStub::OnLoadSystemAbilitySuccessInner(MessageParcel& data, MessageParcel& reply)
+{
+    (void)reply;
+    const int32_t systemAbilityId = data.ReadInt32();
+    if (!CheckInputSystemAbilityId(systemAbilityId)) {
+        SAMGR_HOST_LOGW("invalid system ability id %{public}d", systemAbilityId);
+        return ERR_INVALID_VALUE;
+    }
+    sptr<IRemoteObject> remoteObject = data.ReadRemoteObject();
+    OnLoadSystemAbilitySuccess(systemAbilityId, remoteObject);
+    return ERR_NONE;
+}
+
+int32_t SystemAbilityLoadCallbackStub::OnLoadSystemAbilityFailInner(MessageParcel& data, MessageParcel& reply)
+{
+    (void)reply;
+    const int32_t systemAbilityId = data.ReadInt32();
+    if (!CheckInputSystemAbilityId(systemAbilityId)) {
+        SAMGR_HOST_LOGW("invalid system ability id %{public}d", systemAbilityId);
+        return ERR_INVALID_VALUE;
+    }
+    OnLoadSystemAbilityFail(systemAbilityId);
+    return ERR_NONE;
+}
+
+int32_t SystemAbilityLoadCallbackStub::OnLoadSystemAbilityFailWithCodeInner(MessageParcel& data, MessageParcel& reply)
+{
+    (void)reply;
+    const int32_t systemAbilityId = data.ReadInt32();
+    if (!CheckInputSystemAbilityId(systemAbilityId)) {
+        SAMGR_HOST_LOGW("invalid system ability id %{public}d", systemAbilityId);
+        return ERR_INVALID_VALUE;
+    }
+    const int32_t errCode = data.ReadInt32();
+    OnLoadSystemAbilityFail(systemAbilityId, errCode);
+    return ERR_NONE;
+}
+
+int32_t SystemAbilityLoadCallbackStub::OnLoadSACompleteForRemoteInner(MessageParcel& data, MessageParcel& reply)
+{
+    (void)reply;
+    const std::string deviceId = data.ReadString();
+    const int32_t systemAbilityId = data.ReadInt32();
+    if (!CheckInputSystemAbilityId(systemAbilityId)) {
+        SAMGR_HOST_LOGW("invalid system ability id %{public}d", systemAbilityId);
+        return ERR_INVALID_VALUE;
+    }
+    sptr<IRemoteObject> remoteObject = data.ReadRemoteObject();
+    OnLoadSACompleteForRemote(deviceId, systemAbilityId, remoteObject);
+    return ERR_NONE;
+}
+
+} // namespace OHOS
