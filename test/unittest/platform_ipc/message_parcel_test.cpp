@@ -1,0 +1,335 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <fcntl.h>
+#include <string>
+#include <unistd.h>
+#include <vector>
+
+#include "ipc_test_helpers.h"
+#include "ipc_types.h"
+#include "message_parcel.h"
+#include "process_boundary.h"
+
+namespace OHOS {
+namespace {
+
+constexpr size_t DEFAULT_MAX_CAPACITY = 204800;
+constexpr size_t RECORD_SIZE = 24;
+
+std::vector<uint8_t> Word(uint32_t value)
+{
+    return {static_cast<uint8_t>(value), static_cast<uint8_t>(value >> 8), static_cast<uint8_t>(value >> 16),
+            static_cast<uint8_t>(value >> 24)};
+}
+
+std::vector<uint8_t> Pattern(size_t size)
+{
+    std::vector<uint8_t> bytes(size);
+    for (size_t i = 0; i < size; ++i) {
+        bytes[i] = static_cast<uint8_t>(i * 7 + 3);
+    }
+    return bytes;
+}
+
+uint64_t U64At(const std::vector<uint8_t>& bytes, size_t offset)
+{
+    uint64_t value = 0;
+    std::memcpy(&value, bytes.data() + offset, sizeof(value));
+    return value;
+}
+
+bool FdIsOpen(int fd)
+{
+    return fcntl(fd, F_GETFD) != -1;
+}
+
+// Fills a parcel up to `position` with zero bytes.
+void FillTo(MessageParcel& parcel, size_t position)
+{
+    std::vector<uint8_t> filler(position, 0);
+    ASSERT_TRUE(parcel.WriteBuffer(filler.data(), filler.size()));
+}
+
+TEST(MessageParcelTest, InterfaceTokenHasThePlatformLayout)
+{
+    const struct {
+        std::u16string name;
+        size_t size;
+    } cases[] = {{u"ohos.Zelkon.ZelkonService", 64}, {u"ohos.Zelkon.IWidgetService", 68}, {u"", 16}};
+    for (const auto& c : cases) {
+        MessageParcel parcel;
+        ASSERT_TRUE(parcel.WriteInterfaceToken(c.name));
+        std::vector<uint8_t> expected = Word(0x100);
+        for (uint32_t word : {0u, static_cast<uint32_t>(c.name.size())}) {
+            const std::vector<uint8_t> bytes = Word(word);
+            expected.insert(expected.end(), bytes.begin(), bytes.end());
+        }
+        for (char16_t unit : c.name) {
+            expected.push_back(static_cast<uint8_t>(unit));
+            expected.push_back(static_cast<uint8_t>(unit >> 8));
+        }
+        expected.resize(expected.size() + 2 + (expected.size() + 2) % 4, 0);
+        EXPECT_EQ(parcel.GetDataSize(), c.size);
+        EXPECT_EQ(BytesOf(parcel), expected);
+        EXPECT_EQ(parcel.GetInterfaceToken(), c.name);
+        EXPECT_EQ(parcel.ReadInterfaceToken(), c.name);
+        EXPECT_EQ(parcel.GetReadPosition(), c.size);
+    }
+}
+
+TEST(MessageParcelTest, InterfaceTokenRollsBackWhenTheSecondWordDoesNotFit)
+{
+    MessageParcel parcel;
+    FillTo(parcel, DEFAULT_MAX_CAPACITY - 4);
+    EXPECT_FALSE(parcel.WriteInterfaceToken(u"ohos.Zelkon.ZelkonService"));
+    EXPECT_EQ(parcel.GetDataSize(), DEFAULT_MAX_CAPACITY - 4);
+}
+
+TEST(MessageParcelTest, ReadInterfaceTokenOfAShortParcelIsEmpty)
+{
+    MessageParcel parcel;
+    parcel.WriteInt32(0x100);
+    EXPECT_EQ(parcel.ReadInterfaceToken(), u"");
+}
+
+TEST(MessageParcelTest, RawDataRoundTripsInlineAndThroughSharedMemory)
+{
+    const struct {
+        size_t size;
+        bool shared;
+    } cases[] = {{1, false}, {3, false}, {32767, false}, {32768, false}, {32769, true}, {5 * 1024 * 1024, true}};
+    for (const auto& c : cases) {
+        const std::vector<uint8_t> payload = Pattern(c.size);
+        MessageParcel parcel;
+        ASSERT_TRUE(parcel.WriteUint32(static_cast<uint32_t>(c.size)));
+        ASSERT_TRUE(parcel.WriteRawData(payload.data(), payload.size())) << c.size;
+        const size_t body = c.shared ? RECORD_SIZE : (c.size + 3) / 4 * 4;
+        EXPECT_EQ(parcel.GetDataSize(), 8 + body) << c.size;
+        EXPECT_EQ(parcel.ContainFileDescriptors(), c.shared) << c.size;
+        const std::vector<uint8_t> bytes = BytesOf(parcel);
+        // The size appears twice: the caller's word, then the one WriteRawData writes.
+        EXPECT_EQ(std::vector<uint8_t>(bytes.begin() + 4, bytes.begin() + 8), Word(static_cast<uint32_t>(c.size)));
+
+        EXPECT_EQ(parcel.ReadUint32(), c.size);
+        const auto* read = static_cast<const uint8_t*>(parcel.ReadRawData(c.size));
+        ASSERT_NE(read, nullptr) << c.size;
+        EXPECT_EQ(std::memcmp(read, payload.data(), c.size), 0) << c.size;
+        EXPECT_EQ(parcel.GetReadPosition(), parcel.GetDataSize()) << c.size;
+    }
+}
+
+TEST(MessageParcelTest, InlineRawDataIsZeroPadded)
+{
+    MessageParcel parcel;
+    ASSERT_TRUE(parcel.WriteRawData("ab", 3));
+    std::vector<uint8_t> expected = Word(3);
+    expected.insert(expected.end(), {'a', 'b', 0, 0});
+    EXPECT_EQ(BytesOf(parcel), expected);
+}
+
+TEST(MessageParcelTest, RawDataRefusesBadArgumentsWithoutWriting)
+{
+    const char byte = 'x';
+    const struct {
+        const void* data;
+        size_t size;
+    } cases[] = {{nullptr, 4}, {&byte, 0}, {&byte, MessageParcel::MAX_RAW_DATA_SIZE + 1}};
+    for (const auto& c : cases) {
+        MessageParcel parcel;
+        EXPECT_FALSE(parcel.WriteRawData(c.data, c.size)) << c.size;
+        EXPECT_EQ(parcel.GetDataSize(), 0u) << c.size;
+    }
+}
+
+TEST(MessageParcelTest, OnlyOneSharedMemoryBlockPerParcel)
+{
+    const std::vector<uint8_t> big = Pattern(40000);
+    MessageParcel parcel;
+    ASSERT_TRUE(parcel.WriteRawData(big.data(), big.size()));
+    const size_t size = parcel.GetDataSize();
+    EXPECT_FALSE(parcel.WriteRawData(big.data(), big.size()));
+    EXPECT_FALSE(parcel.WriteRawData(big.data(), 4));
+    EXPECT_EQ(parcel.GetDataSize(), size);
+
+    MessageParcel inlineFirst;
+    ASSERT_TRUE(inlineFirst.WriteRawData(big.data(), 100));
+    EXPECT_TRUE(inlineFirst.WriteRawData(big.data(), 200));
+    EXPECT_TRUE(inlineFirst.WriteRawData(big.data(), big.size()));
+}
+
+TEST(MessageParcelTest, ReadRawDataChecksTheWrittenSize)
+{
+    MessageParcel parcel;
+    ASSERT_TRUE(parcel.WriteRawData("ab", 3));
+    EXPECT_EQ(parcel.ReadRawData(0), nullptr);
+    EXPECT_EQ(parcel.GetReadPosition(), 0u);
+    EXPECT_EQ(parcel.ReadRawData(4), nullptr);
+    EXPECT_EQ(parcel.GetReadPosition(), 4u);
+}
+
+TEST(MessageParcelTest, BigRawDataNeedsItsDescriptorRecord)
+{
+    // A size word above the inline limit without the record that must follow it.
+    MessageParcel parcel;
+    parcel.WriteInt32(40000);
+    FillTo(parcel, 4 + RECORD_SIZE);
+    EXPECT_EQ(parcel.ReadRawData(40000), nullptr);
+}
+
+TEST(MessageParcelTest, SharedMemoryOutlivesTheWritingParcel)
+{
+    const std::vector<uint8_t> payload = Pattern(100000);
+    MessageParcel received;
+    {
+        MessageParcel sent;
+        ASSERT_TRUE(sent.WriteRawData(payload.data(), payload.size()));
+        ASSERT_TRUE(ProcessBoundary::Copy(sent, received));
+    }
+    const auto* read = static_cast<const uint8_t*>(received.ReadRawData(payload.size()));
+    ASSERT_NE(read, nullptr);
+    EXPECT_EQ(std::memcmp(read, payload.data(), payload.size()), 0);
+    EXPECT_EQ(received.GetRawData(), read);
+    EXPECT_EQ(received.GetRawDataSize(), payload.size());
+}
+
+TEST(MessageParcelTest, FileDescriptorIsCarriedAsADupThatTheParcelCloses)
+{
+    int pipeFds[2];
+    ASSERT_EQ(pipe(pipeFds), 0);
+    int carried = -1;
+    {
+        MessageParcel parcel;
+        ASSERT_TRUE(parcel.WriteFileDescriptor(pipeFds[1]));
+        ASSERT_EQ(parcel.GetDataSize(), RECORD_SIZE);
+        EXPECT_TRUE(parcel.ContainFileDescriptors());
+        const std::vector<uint8_t> bytes = BytesOf(parcel);
+        EXPECT_EQ(std::vector<uint8_t>(bytes.begin(), bytes.begin() + 8),
+                  std::vector<uint8_t>({0x85, 0x2a, 0x64, 0x66, 0x7f, 0x01, 0x00, 0x00}));
+        carried = static_cast<int>(U64At(bytes, 8));
+        EXPECT_NE(carried, pipeFds[1]);
+        EXPECT_TRUE(FdIsOpen(carried));
+
+        const int read = parcel.ReadFileDescriptor();
+        ASSERT_GE(read, 0);
+        EXPECT_NE(read, carried);
+        ASSERT_EQ(write(read, "z", 1), 1);
+        char got = 0;
+        ASSERT_EQ(::read(pipeFds[0], &got, 1), 1);
+        EXPECT_EQ(got, 'z');
+        close(read);
+    }
+    EXPECT_FALSE(FdIsOpen(carried));
+    close(pipeFds[0]);
+    close(pipeFds[1]);
+}
+
+TEST(MessageParcelTest, FileDescriptorRefusals)
+{
+    int pipeFds[2];
+    ASSERT_EQ(pipe(pipeFds), 0);
+    close(pipeFds[0]);
+    close(pipeFds[1]);
+    for (int fd : {-1, pipeFds[0]}) {
+        MessageParcel parcel;
+        EXPECT_FALSE(parcel.WriteFileDescriptor(fd)) << fd;
+        EXPECT_EQ(parcel.GetDataSize(), 0u);
+        EXPECT_FALSE(parcel.ContainFileDescriptors());
+    }
+    MessageParcel notARecord;
+    notARecord.WriteInt32(3);
+    EXPECT_EQ(notARecord.ReadFileDescriptor(), INVALID_FD);
+    EXPECT_EQ(notARecord.GetReadPosition(), 0u);
+}
+
+TEST(MessageParcelTest, RemoteObjectRecordsAreTypedByLocality)
+{
+    sptr<IRemoteObject> stub = new RecordingStub();
+    sptr<IRemoteObject> remote = ProcessBoundary::Translate(stub);
+    const struct {
+        sptr<IRemoteObject> object;
+        std::vector<uint8_t> head;
+    } cases[] = {{stub, {0x85, 0x2a, 0x62, 0x73, 0x7f, 0x01, 0x00, 0x00}},
+                 {remote, {0x85, 0x2a, 0x68, 0x73, 0x7f, 0x01, 0x00, 0x00}}};
+    for (const auto& c : cases) {
+        MessageParcel parcel;
+        ASSERT_TRUE(parcel.WriteRemoteObject(c.object));
+        const std::vector<uint8_t> bytes = BytesOf(parcel);
+        ASSERT_EQ(bytes.size(), RECORD_SIZE);
+        EXPECT_EQ(std::vector<uint8_t>(bytes.begin(), bytes.begin() + 8), c.head);
+        EXPECT_EQ(parcel.ReadRemoteObject(), c.object);
+        EXPECT_EQ(parcel.GetReadPosition(), RECORD_SIZE);
+    }
+}
+
+TEST(MessageParcelTest, NullRemoteObjectIsRefused)
+{
+    MessageParcel parcel;
+    EXPECT_FALSE(parcel.WriteRemoteObject(nullptr));
+    EXPECT_EQ(parcel.GetDataSize(), 0u);
+}
+
+TEST(MessageParcelTest, RemoteObjectIsReadOnlyAtARecordedOffset)
+{
+    sptr<IRemoteObject> stub = new RecordingStub();
+    MessageParcel parcel;
+    parcel.WriteInt32(1);
+    ASSERT_TRUE(parcel.WriteRemoteObject(stub));
+
+    EXPECT_EQ(parcel.ReadRemoteObject(), nullptr);
+    EXPECT_EQ(parcel.GetReadPosition(), 0u);
+    parcel.ReadInt32();
+    EXPECT_EQ(parcel.ReadRemoteObject(), stub);
+
+    // The same bytes, copied without their record, are just bytes.
+    const std::vector<uint8_t> bytes = BytesOf(parcel);
+    const std::vector<uint8_t> record(bytes.begin() + 4, bytes.end());
+    MessageParcel forged;
+    ASSERT_TRUE(forged.WriteBuffer(record.data(), record.size()));
+    EXPECT_EQ(forged.ReadRemoteObject(), nullptr);
+    EXPECT_EQ(forged.GetReadPosition(), 0u);
+}
+
+TEST(MessageParcelTest, RecordOverwrittenAfterRewindIsNotRead)
+{
+    sptr<IRemoteObject> stub = new RecordingStub();
+    MessageParcel parcel;
+    ASSERT_TRUE(parcel.WriteRemoteObject(stub));
+    ASSERT_TRUE(parcel.RewindWrite(0));
+    FillTo(parcel, RECORD_SIZE);
+    EXPECT_EQ(parcel.ReadRemoteObject(), nullptr);
+}
+
+class LifetimeStub : public RecordingStub {
+public:
+    explicit LifetimeStub(bool& destroyed) : destroyed_(destroyed) {}
+    ~LifetimeStub() override { destroyed_ = true; }
+
+private:
+    bool& destroyed_;
+};
+
+TEST(MessageParcelTest, ParcelKeepsItsObjectsAlive)
+{
+    bool destroyed = false;
+    {
+        MessageParcel parcel;
+        {
+            sptr<IRemoteObject> stub = new LifetimeStub(destroyed);
+            ASSERT_TRUE(parcel.WriteRemoteObject(stub));
+        }
+        EXPECT_FALSE(destroyed);
+    }
+    EXPECT_TRUE(destroyed);
+}
+
+TEST(MessageParcelTest, ExceptionWordIsZero)
+{
+    MessageParcel parcel;
+    ASSERT_TRUE(parcel.WriteNoException());
+    EXPECT_EQ(BytesOf(parcel), Word(0));
+    EXPECT_EQ(parcel.ReadException(), 0);
+}
+
+} // namespace
+} // namespace OHOS

@@ -1,0 +1,331 @@
+#include <gtest/gtest.h>
+
+#include <fcntl.h>
+#include <thread>
+#include <unistd.h>
+
+#include "ipc_object_proxy.h"
+#include "ipc_test_helpers.h"
+#include "ipc_threads.h"
+#include "ipc_types.h"
+#include "process_boundary.h"
+
+namespace OHOS {
+namespace {
+
+constexpr uint32_t CODE = 7;
+
+class RemoteObjectTest : public testing::Test {
+protected:
+    void TearDown() override { IpcThreads::Drain(); }
+
+    // A stub "in another process" and the remote object that stands for it.
+    void Connect(RecordingStub::Handler handler = {})
+    {
+        stub_ = new RecordingStub(std::move(handler));
+        remote_ = new IPCObjectProxy(stub_);
+    }
+
+    int Send(MessageParcel& data, MessageParcel& reply, uint32_t code = CODE)
+    {
+        MessageOption option;
+        return remote_->SendRequest(code, data, reply, option);
+    }
+
+    sptr<RecordingStub> stub_;
+    sptr<IPCObjectProxy> remote_;
+};
+
+TEST_F(RemoteObjectTest, StubAnswersOnTheCallersThreadWithTheSameParcels)
+{
+    sptr<RecordingStub> stub = new RecordingStub();
+    EXPECT_FALSE(stub->IsProxyObject());
+    MessageParcel data;
+    MessageParcel reply;
+    MessageOption option;
+    EXPECT_EQ(stub->SendRequest(CODE, data, reply, option), ERR_NONE);
+    EXPECT_EQ(stub->Thread(), std::this_thread::get_id());
+    EXPECT_EQ(stub->RequestParcel(), &data);
+}
+
+TEST_F(RemoteObjectTest, BareStubAnswersUnknownTransaction)
+{
+    sptr<IPCObjectStub> stub = new IPCObjectStub(u"test.Bare");
+    MessageParcel data;
+    MessageParcel reply;
+    MessageOption option;
+    EXPECT_EQ(stub->SendRequest(CODE, data, reply, option), IPC_STUB_UNKNOW_TRANS_ERR);
+    sptr<IRemoteObject::DeathRecipient> recipient = new CountingRecipient();
+    EXPECT_FALSE(stub->AddDeathRecipient(recipient));
+    EXPECT_FALSE(stub->RemoveDeathRecipient(recipient));
+}
+
+TEST_F(RemoteObjectTest, RequestAndReplyCrossTheBoundaryIntact)
+{
+    std::vector<uint8_t> replyBytes;
+    Connect([&replyBytes](uint32_t, MessageParcel& data, MessageParcel& reply) {
+        EXPECT_EQ(data.ReadInterfaceToken(), u"test.Service");
+        EXPECT_EQ(data.ReadString(), "payload");
+        const int fd = data.ReadFileDescriptor();
+        EXPECT_GE(fd, 0);
+        EXPECT_EQ(write(fd, "q", 1), 1);
+        close(fd);
+        reply.WriteInt32(42);
+        reply.WriteString("answer");
+        replyBytes = BytesOf(reply);
+        return ERR_NONE;
+    });
+    int pipeFds[2];
+    ASSERT_EQ(pipe(pipeFds), 0);
+    MessageParcel data;
+    ASSERT_TRUE(data.WriteInterfaceToken(u"test.Service"));
+    ASSERT_TRUE(data.WriteString("payload"));
+    const size_t fdOffset = data.GetWritePosition();
+    ASSERT_TRUE(data.WriteFileDescriptor(pipeFds[1]));
+    ASSERT_TRUE(data.WriteInt64(-2));
+    MessageParcel reply;
+
+    ASSERT_EQ(Send(data, reply), ERR_NONE);
+
+    // Identical but for the descriptor number, which the receiving side gets anew.
+    std::vector<uint8_t> sent = BytesOf(data);
+    std::vector<uint8_t> received = stub_->RequestBytes();
+    ASSERT_EQ(received.size(), sent.size());
+    std::fill(sent.begin() + fdOffset + 8, sent.begin() + fdOffset + 16, 0);
+    std::fill(received.begin() + fdOffset + 8, received.begin() + fdOffset + 16, 0);
+    EXPECT_EQ(received, sent);
+    EXPECT_NE(stub_->RequestParcel(), &data);
+    char got = 0;
+    ASSERT_EQ(read(pipeFds[0], &got, 1), 1);
+    EXPECT_EQ(got, 'q');
+
+    EXPECT_EQ(reply.GetReadPosition(), 0u);
+    EXPECT_EQ(BytesOf(reply), replyBytes);
+    EXPECT_EQ(reply.ReadInt32(), 42);
+    EXPECT_EQ(reply.ReadString(), "answer");
+    close(pipeFds[0]);
+    close(pipeFds[1]);
+}
+
+TEST_F(RemoteObjectTest, FailedRequestComesBackWithItsCodeAndAnEmptyReply)
+{
+    Connect([](uint32_t, MessageParcel&, MessageParcel& reply) {
+        reply.WriteInt32(1);
+        return ERR_INVALID_DATA;
+    });
+    MessageParcel data;
+    MessageParcel reply;
+    EXPECT_EQ(Send(data, reply), ERR_INVALID_DATA);
+    EXPECT_EQ(reply.GetDataSize(), 0u);
+}
+
+TEST_F(RemoteObjectTest, CodesAboveTheTransactionRangeAreRefused)
+{
+    Connect();
+    const struct {
+        uint32_t code;
+        int result;
+    } cases[] = {{FIRST_CALL_TRANSACTION, ERR_NONE},
+                 {LAST_CALL_TRANSACTION, ERR_NONE},
+                 {LAST_CALL_TRANSACTION + 1, IPC_PROXY_INVALID_CODE_ERR},
+                 {0xFFFFFFFF, IPC_PROXY_INVALID_CODE_ERR}};
+    for (const auto& c : cases) {
+        MessageParcel data;
+        MessageParcel reply;
+        EXPECT_EQ(Send(data, reply, c.code), c.result) << c.code;
+    }
+    EXPECT_EQ(stub_->Codes(), std::vector<uint32_t>({FIRST_CALL_TRANSACTION, LAST_CALL_TRANSACTION}));
+}
+
+TEST_F(RemoteObjectTest, RequestAboveTheDefaultCapacityArrivesWhole)
+{
+    constexpr size_t size = 4 * 1024 * 1024;
+    Connect();
+    MessageParcel data;
+    ASSERT_TRUE(data.SetMaxCapacity(size));
+    std::vector<uint8_t> payload(size);
+    for (size_t i = 0; i < size; ++i) {
+        payload[i] = static_cast<uint8_t>(i % 251);
+    }
+    ASSERT_TRUE(data.WriteBuffer(payload.data(), payload.size()));
+    MessageParcel reply;
+    ASSERT_EQ(Send(data, reply), ERR_NONE);
+    EXPECT_EQ(stub_->RequestBytes(), payload);
+}
+
+TEST_F(RemoteObjectTest, BigRawDataIsSharedWithTheStub)
+{
+    const std::vector<uint8_t> payload(300000, 0x5a);
+    bool matched = false;
+    Connect([&](uint32_t, MessageParcel& data, MessageParcel&) {
+        const auto* read = static_cast<const uint8_t*>(data.ReadRawData(payload.size()));
+        matched = read != nullptr && std::equal(payload.begin(), payload.end(), read);
+        return ERR_NONE;
+    });
+    MessageParcel data;
+    ASSERT_TRUE(data.WriteRawData(payload.data(), payload.size()));
+    MessageParcel reply;
+    ASSERT_EQ(Send(data, reply), ERR_NONE);
+    EXPECT_TRUE(matched);
+}
+
+TEST_F(RemoteObjectTest, LocalObjectArrivesAsARemoteObjectThatForwardsToIt)
+{
+    std::vector<sptr<IRemoteObject>> received;
+    Connect([&received](uint32_t, MessageParcel& data, MessageParcel&) {
+        received.push_back(data.ReadRemoteObject());
+        return ERR_NONE;
+    });
+    sptr<RecordingStub> listener = new RecordingStub();
+    for (int i = 0; i < 2; ++i) {
+        MessageParcel data;
+        ASSERT_TRUE(data.WriteRemoteObject(listener));
+        MessageParcel reply;
+        ASSERT_EQ(Send(data, reply), ERR_NONE);
+    }
+    ASSERT_EQ(received.size(), 2u);
+    ASSERT_NE(received[0], nullptr);
+    EXPECT_TRUE(received[0]->IsProxyObject());
+    EXPECT_NE(received[0].GetRefPtr(), static_cast<IRemoteObject*>(listener.GetRefPtr()));
+    // One identity per object, so that the other side can compare what it receives.
+    EXPECT_EQ(received[0], received[1]);
+    EXPECT_EQ(received[0]->GetObjectDescriptor(), u"test.RecordingStub");
+
+    MessageParcel call;
+    call.WriteInt32(9);
+    MessageParcel reply;
+    MessageOption option;
+    EXPECT_EQ(received[0]->SendRequest(3, call, reply, option), ERR_NONE);
+    EXPECT_EQ(listener->Codes(), std::vector<uint32_t>({3}));
+}
+
+TEST_F(RemoteObjectTest, RemoteObjectArrivesAsItself)
+{
+    sptr<IRemoteObject> received;
+    Connect([&received](uint32_t, MessageParcel& data, MessageParcel&) {
+        received = data.ReadRemoteObject();
+        return ERR_NONE;
+    });
+    sptr<IRemoteObject> other = new IPCObjectProxy(new RecordingStub());
+    MessageParcel data;
+    ASSERT_TRUE(data.WriteRemoteObject(other));
+    MessageParcel reply;
+    ASSERT_EQ(Send(data, reply), ERR_NONE);
+    EXPECT_EQ(received, other);
+}
+
+TEST_F(RemoteObjectTest, ObjectInTheReplyArrivesAsARemoteObject)
+{
+    sptr<RecordingStub> sender = new RecordingStub();
+    Connect([&sender](uint32_t, MessageParcel&, MessageParcel& reply) {
+        reply.WriteRemoteObject(sender);
+        return ERR_NONE;
+    });
+    MessageParcel data;
+    MessageParcel reply;
+    ASSERT_EQ(Send(data, reply), ERR_NONE);
+    sptr<IRemoteObject> received = reply.ReadRemoteObject();
+    ASSERT_NE(received, nullptr);
+    EXPECT_TRUE(received->IsProxyObject());
+    EXPECT_EQ(received, ProcessBoundary::Translate(sender));
+}
+
+TEST_F(RemoteObjectTest, OneWayRequestRunsLaterOnAnIpcThread)
+{
+    Connect();
+    MessageParcel data;
+    data.WriteInt32(5);
+    MessageParcel reply;
+    MessageOption option(MessageOption::TF_ASYNC);
+    ASSERT_EQ(remote_->SendRequest(CODE, data, reply, option), ERR_NONE);
+    IpcThreads::Drain();
+    EXPECT_EQ(stub_->Codes(), std::vector<uint32_t>({CODE}));
+    EXPECT_TRUE(stub_->OnIpcThread());
+    EXPECT_EQ(stub_->RequestBytes(), BytesOf(data));
+}
+
+TEST_F(RemoteObjectTest, DeadObjectRefusesRequestsAndTellsEachRecipientOnce)
+{
+    Connect();
+    sptr<CountingRecipient> first = new CountingRecipient();
+    sptr<CountingRecipient> second = new CountingRecipient();
+    ASSERT_TRUE(remote_->AddDeathRecipient(first));
+    ASSERT_TRUE(remote_->AddDeathRecipient(second));
+
+    remote_->Kill();
+    remote_->Kill();
+
+    MessageParcel data;
+    MessageParcel reply;
+    EXPECT_EQ(Send(data, reply), ERR_DEAD_OBJECT);
+    EXPECT_TRUE(remote_->IsObjectDead());
+    first->WaitForCalls(1);
+    second->WaitForCalls(1);
+    IpcThreads::Drain();
+    for (const sptr<CountingRecipient>& recipient : {first, second}) {
+        EXPECT_EQ(recipient->Calls(), 1);
+        EXPECT_NE(recipient->Threads()[0], std::this_thread::get_id());
+        EXPECT_TRUE(recipient->OnIpcThread());
+        EXPECT_EQ(recipient->Died(), sptr<IRemoteObject>(remote_));
+    }
+    EXPECT_TRUE(stub_->Codes().empty());
+}
+
+TEST_F(RemoteObjectTest, DuplicateRegistrationsAreEachTold)
+{
+    Connect();
+    sptr<CountingRecipient> recipient = new CountingRecipient();
+    ASSERT_TRUE(remote_->AddDeathRecipient(recipient));
+    ASSERT_TRUE(remote_->AddDeathRecipient(recipient));
+    remote_->Kill();
+    recipient->WaitForCalls(2);
+    IpcThreads::Drain();
+    EXPECT_EQ(recipient->Calls(), 2);
+}
+
+TEST_F(RemoteObjectTest, RemovedRecipientIsNotTold)
+{
+    Connect();
+    sptr<CountingRecipient> removed = new CountingRecipient();
+    sptr<CountingRecipient> kept = new CountingRecipient();
+    ASSERT_TRUE(remote_->AddDeathRecipient(removed));
+    ASSERT_TRUE(remote_->AddDeathRecipient(kept));
+    EXPECT_TRUE(remote_->RemoveDeathRecipient(removed));
+    EXPECT_FALSE(remote_->RemoveDeathRecipient(removed));
+    remote_->Kill();
+    kept->WaitForCalls(1);
+    IpcThreads::Drain();
+    EXPECT_EQ(removed->Calls(), 0);
+}
+
+TEST_F(RemoteObjectTest, RecipientRegistrationRules)
+{
+    Connect();
+    sptr<CountingRecipient> recipient = new CountingRecipient();
+    EXPECT_FALSE(remote_->AddDeathRecipient(nullptr));
+    EXPECT_FALSE(remote_->RemoveDeathRecipient(nullptr));
+    EXPECT_FALSE(remote_->RemoveDeathRecipient(recipient));
+
+    remote_->RefuseDeathRecipients(true);
+    EXPECT_FALSE(remote_->AddDeathRecipient(recipient));
+    remote_->RefuseDeathRecipients(false);
+    EXPECT_TRUE(remote_->AddDeathRecipient(recipient));
+
+    remote_->Kill();
+    EXPECT_FALSE(remote_->AddDeathRecipient(recipient));
+    EXPECT_FALSE(remote_->RemoveDeathRecipient(recipient));
+}
+
+TEST_F(RemoteObjectTest, KilledForwarderIsReplacedForTheNextCrossing)
+{
+    sptr<RecordingStub> listener = new RecordingStub();
+    sptr<IRemoteObject> before = ProcessBoundary::Translate(listener);
+    EXPECT_EQ(ProcessBoundary::Translate(listener), before);
+    static_cast<IPCObjectProxy*>(before.GetRefPtr())->Kill();
+    sptr<IRemoteObject> after = ProcessBoundary::Translate(listener);
+    EXPECT_NE(after, before);
+    EXPECT_FALSE(after->IsObjectDead());
+}
+
+} // namespace
+} // namespace OHOS

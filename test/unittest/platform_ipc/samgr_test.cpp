@@ -1,0 +1,345 @@
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <thread>
+
+#include "ipc_test_helpers.h"
+#include "iservice_registry.h"
+#include "samgr_host_control.h"
+#include "system_ability_load_callback_stub.h"
+
+namespace OHOS {
+namespace {
+
+constexpr int32_t SA_ID = 4610;
+constexpr int32_t OTHER_ID = 4611;
+constexpr int32_t UNKNOWN_ID = 4699;
+
+// Records each outcome, where it ran, and whether the load request had already returned by then.
+class LoadOutcome : public SystemAbilityLoadCallbackStub {
+public:
+    using SystemAbilityLoadCallbackStub::OnLoadSystemAbilityFail;
+
+    // Holds the "returned" mark while the caller is inside LoadSystemAbility.
+    int32_t Load(const sptr<ISystemAbilityManager>& manager, int32_t id)
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        caller_ = std::this_thread::get_id();
+        const int32_t result = manager->LoadSystemAbility(id, this);
+        returned_ = true;
+        return result;
+    }
+
+    void OnLoadSystemAbilitySuccess(int32_t id, const sptr<IRemoteObject>& object) override
+    {
+        Record(true, id, object);
+    }
+    void OnLoadSystemAbilityFail(int32_t id) override { Record(false, id, nullptr); }
+
+    void Wait()
+    {
+        std::unique_lock<std::mutex> lock(mutex_);
+        changed_.wait(lock, [this] { return calls_ > 0; });
+    }
+
+    int calls_ = 0;
+    bool success_ = false;
+    int32_t id_ = -1;
+    sptr<IRemoteObject> object_;
+    bool afterReturn_ = false;
+    bool onIpcThread_ = false;
+    std::chrono::steady_clock::time_point at_;
+
+private:
+    void Record(bool success, int32_t id, const sptr<IRemoteObject>& object)
+    {
+        // A callback on the caller's own thread would run inside LoadSystemAbility, which holds the lock.
+        const bool callerThread = std::this_thread::get_id() == caller_.load();
+        std::unique_lock<std::mutex> lock(mutex_, std::defer_lock);
+        if (!callerThread) {
+            lock.lock();
+        }
+        ++calls_;
+        success_ = success;
+        id_ = id;
+        object_ = object;
+        afterReturn_ = !callerThread && returned_;
+        onIpcThread_ = IpcThreads::IsIpcThread();
+        at_ = std::chrono::steady_clock::now();
+        changed_.notify_all();
+    }
+
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::atomic<std::thread::id> caller_;
+    bool returned_ = false;
+};
+
+class SamgrTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        SamgrHostControl::Reset();
+        manager_ = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
+        ASSERT_NE(manager_, nullptr);
+    }
+    void TearDown() override { SamgrHostControl::Reset(); }
+
+    // Loads and waits for the outcome.
+    sptr<LoadOutcome> LoadAndWait(int32_t id)
+    {
+        sptr<LoadOutcome> outcome = new LoadOutcome();
+        EXPECT_EQ(outcome->Load(manager_, id), ERR_OK);
+        outcome->Wait();
+        IpcThreads::Drain();
+        return outcome;
+    }
+
+    sptr<ISystemAbilityManager> manager_;
+    sptr<RecordingStub> stub_ = new RecordingStub();
+};
+
+TEST_F(SamgrTest, AddedAbilityIsOneRemoteObjectForEveryCaller)
+{
+    ASSERT_EQ(manager_->AddSystemAbility(SA_ID, stub_), ERR_OK);
+    sptr<IRemoteObject> first = manager_->CheckSystemAbility(SA_ID);
+    sptr<IRemoteObject> second = manager_->GetSystemAbility(SA_ID);
+    bool isExist = false;
+    sptr<IRemoteObject> third = manager_->CheckSystemAbility(SA_ID, isExist);
+    ASSERT_NE(first, nullptr);
+    EXPECT_TRUE(first->IsProxyObject());
+    EXPECT_NE(first.GetRefPtr(), static_cast<IRemoteObject*>(stub_.GetRefPtr()));
+    EXPECT_EQ(second, first);
+    EXPECT_EQ(third, first);
+    EXPECT_TRUE(isExist);
+    EXPECT_EQ(SamgrHostControl::LookupCount(SA_ID), 3);
+
+    MessageParcel data;
+    MessageParcel reply;
+    MessageOption option;
+    EXPECT_EQ(first->SendRequest(5, data, reply, option), ERR_NONE);
+    EXPECT_EQ(stub_->Codes(), std::vector<uint32_t>({5}));
+}
+
+TEST_F(SamgrTest, AddRefusesBadIdsAndNullObjects)
+{
+    EXPECT_EQ(manager_->AddSystemAbility(0, stub_), ERR_INVALID_VALUE);
+    EXPECT_EQ(manager_->AddSystemAbility(0x01000000, stub_), ERR_INVALID_VALUE);
+    EXPECT_EQ(manager_->AddSystemAbility(SA_ID, nullptr), ERR_INVALID_VALUE);
+    EXPECT_EQ(manager_->CheckSystemAbility(SA_ID), nullptr);
+}
+
+TEST_F(SamgrTest, RemovedAbilityIsAbsent)
+{
+    ASSERT_EQ(manager_->AddSystemAbility(SA_ID, stub_), ERR_OK);
+    EXPECT_EQ(manager_->RemoveSystemAbility(SA_ID), ERR_OK);
+    EXPECT_EQ(manager_->RemoveSystemAbility(SA_ID), ERR_INVALID_VALUE);
+    bool isExist = true;
+    EXPECT_EQ(manager_->CheckSystemAbility(SA_ID, isExist), nullptr);
+    EXPECT_FALSE(isExist);
+}
+
+TEST_F(SamgrTest, LoadOfAnAddedAbilityCallsBackLaterOnAnIpcThread)
+{
+    ASSERT_EQ(manager_->AddSystemAbility(SA_ID, stub_), ERR_OK);
+    sptr<LoadOutcome> outcome = LoadAndWait(SA_ID);
+    EXPECT_EQ(outcome->calls_, 1);
+    EXPECT_TRUE(outcome->success_);
+    EXPECT_EQ(outcome->id_, SA_ID);
+    EXPECT_EQ(outcome->object_, manager_->CheckSystemAbility(SA_ID));
+    EXPECT_TRUE(outcome->afterReturn_);
+    EXPECT_TRUE(outcome->onIpcThread_);
+    EXPECT_EQ(SamgrHostControl::LoadCount(SA_ID), 1);
+}
+
+TEST_F(SamgrTest, LoadOfAnUnknownAbilityFailsLaterOnAnIpcThread)
+{
+    sptr<LoadOutcome> outcome = LoadAndWait(UNKNOWN_ID);
+    EXPECT_EQ(outcome->calls_, 1);
+    EXPECT_FALSE(outcome->success_);
+    EXPECT_EQ(outcome->id_, UNKNOWN_ID);
+    EXPECT_TRUE(outcome->afterReturn_);
+    EXPECT_TRUE(outcome->onIpcThread_);
+}
+
+TEST_F(SamgrTest, LoaderStartsTheAbilityOnceOnDemand)
+{
+    std::atomic<int> starts{0};
+    SamgrHostControl::RegisterLoader(SA_ID, [this, &starts]() -> sptr<IRemoteObject> {
+        ++starts;
+        return stub_;
+    });
+    EXPECT_EQ(manager_->CheckSystemAbility(SA_ID), nullptr);
+    sptr<LoadOutcome> first = LoadAndWait(SA_ID);
+    sptr<LoadOutcome> second = LoadAndWait(SA_ID);
+    ASSERT_TRUE(first->success_);
+    EXPECT_TRUE(first->object_->IsProxyObject());
+    EXPECT_EQ(second->object_, first->object_);
+    EXPECT_EQ(manager_->CheckSystemAbility(SA_ID), first->object_);
+    EXPECT_EQ(starts, 1);
+    EXPECT_EQ(SamgrHostControl::LoadCount(SA_ID), 2);
+}
+
+TEST_F(SamgrTest, LoaderThatStartsNothingFails)
+{
+    SamgrHostControl::RegisterLoader(SA_ID, [] { return sptr<IRemoteObject>(); });
+    sptr<LoadOutcome> outcome = LoadAndWait(SA_ID);
+    EXPECT_FALSE(outcome->success_);
+}
+
+TEST_F(SamgrTest, ScriptedOutcomes)
+{
+    const struct {
+        const char* name;
+        LoadScript script;
+        bool success;
+        int32_t id;
+        bool withObject;
+    } cases[] = {
+        {"fail", {LoadScript::Outcome::FAIL}, false, SA_ID, false},
+        {"null object", {LoadScript::Outcome::NULL_OBJECT}, true, SA_ID, false},
+        {"other id", {LoadScript::Outcome::OTHER_ID, std::chrono::milliseconds(0), OTHER_ID}, true, OTHER_ID, true},
+        {"succeed", {LoadScript::Outcome::SUCCEED}, true, SA_ID, true},
+    };
+    ASSERT_EQ(manager_->AddSystemAbility(SA_ID, stub_), ERR_OK);
+    for (const auto& c : cases) {
+        SamgrHostControl::ScriptLoads(c.script);
+        sptr<LoadOutcome> outcome = LoadAndWait(SA_ID);
+        EXPECT_EQ(outcome->calls_, 1) << c.name;
+        EXPECT_EQ(outcome->success_, c.success) << c.name;
+        EXPECT_EQ(outcome->id_, c.id) << c.name;
+        EXPECT_EQ(outcome->object_ != nullptr, c.withObject) << c.name;
+        EXPECT_TRUE(outcome->afterReturn_) << c.name;
+        EXPECT_TRUE(outcome->onIpcThread_) << c.name;
+    }
+}
+
+TEST_F(SamgrTest, RefusedLoadReturnsTheScriptedCodeWithoutCallback)
+{
+    ASSERT_EQ(manager_->AddSystemAbility(SA_ID, stub_), ERR_OK);
+    LoadScript refuse{LoadScript::Outcome::REFUSE};
+    refuse.refuseCode = ERR_INVALID_OPERATION;
+    SamgrHostControl::ScriptLoads(refuse, 2);
+    for (int i = 0; i < 2; ++i) {
+        sptr<LoadOutcome> outcome = new LoadOutcome();
+        EXPECT_EQ(outcome->Load(manager_, SA_ID), ERR_INVALID_OPERATION);
+        IpcThreads::Drain();
+        EXPECT_EQ(outcome->calls_, 0);
+    }
+    EXPECT_EQ(SamgrHostControl::LoadCount(SA_ID), 2);
+    // The script is used up: loads behave normally again.
+    EXPECT_TRUE(LoadAndWait(SA_ID)->success_);
+}
+
+TEST_F(SamgrTest, BadLoadRequestsAreRefused)
+{
+    sptr<LoadOutcome> outcome = new LoadOutcome();
+    EXPECT_EQ(manager_->LoadSystemAbility(SA_ID, nullptr), ERR_INVALID_VALUE);
+    EXPECT_EQ(outcome->Load(manager_, -3), ERR_INVALID_VALUE);
+    IpcThreads::Drain();
+    EXPECT_EQ(outcome->calls_, 0);
+}
+
+TEST_F(SamgrTest, DelayedLoadArrivesAfterTheDelay)
+{
+    ASSERT_EQ(manager_->AddSystemAbility(SA_ID, stub_), ERR_OK);
+    constexpr std::chrono::milliseconds delay(50);
+    SamgrHostControl::ScriptLoads({LoadScript::Outcome::SUCCEED, delay});
+    const auto start = std::chrono::steady_clock::now();
+    sptr<LoadOutcome> outcome = LoadAndWait(SA_ID);
+    EXPECT_TRUE(outcome->success_);
+    EXPECT_GE(outcome->at_ - start, delay);
+}
+
+TEST_F(SamgrTest, ResetWaitsForPendingLoads)
+{
+    ASSERT_EQ(manager_->AddSystemAbility(SA_ID, stub_), ERR_OK);
+    SamgrHostControl::ScriptLoads({LoadScript::Outcome::SUCCEED, std::chrono::milliseconds(30)});
+    sptr<LoadOutcome> outcome = new LoadOutcome();
+    ASSERT_EQ(outcome->Load(manager_, SA_ID), ERR_OK);
+    SamgrHostControl::Reset();
+    EXPECT_EQ(outcome->calls_, 1);
+    EXPECT_EQ(manager_->CheckSystemAbility(SA_ID), nullptr);
+    EXPECT_EQ(SamgrHostControl::LookupCount(SA_ID), 1);
+}
+
+TEST_F(SamgrTest, ResetClearsFaultsAndCounts)
+{
+    SamgrHostControl::SetManagerUnavailable(true);
+    SamgrHostControl::SetDeathRecipientsRefused(true);
+    SamgrHostControl::ScriptLoads({LoadScript::Outcome::FAIL}, 3);
+    SamgrHostControl::RegisterLoader(SA_ID, [this] { return sptr<IRemoteObject>(stub_); });
+    manager_->CheckSystemAbility(SA_ID);
+    SamgrHostControl::Reset();
+
+    EXPECT_NE(SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager(), nullptr);
+    EXPECT_EQ(SamgrHostControl::LookupCount(SA_ID), 0);
+    EXPECT_FALSE(LoadAndWait(SA_ID)->success_); // no loader any more
+    ASSERT_EQ(manager_->AddSystemAbility(SA_ID, stub_), ERR_OK);
+    EXPECT_TRUE(LoadAndWait(SA_ID)->success_); // no script any more
+    sptr<CountingRecipient> recipient = new CountingRecipient();
+    EXPECT_TRUE(manager_->CheckSystemAbility(SA_ID)->AddDeathRecipient(recipient));
+}
+
+TEST_F(SamgrTest, UnavailableManagerIsNull)
+{
+    SamgrHostControl::SetManagerUnavailable(true);
+    EXPECT_EQ(SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager(), nullptr);
+    SamgrHostControl::SetManagerUnavailable(false);
+    EXPECT_NE(SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager(), nullptr);
+}
+
+TEST_F(SamgrTest, RefusedDeathRecipientsApplyToPresentAndFutureAbilities)
+{
+    ASSERT_EQ(manager_->AddSystemAbility(SA_ID, stub_), ERR_OK);
+    SamgrHostControl::SetDeathRecipientsRefused(true);
+    ASSERT_EQ(manager_->AddSystemAbility(OTHER_ID, new RecordingStub()), ERR_OK);
+    sptr<CountingRecipient> recipient = new CountingRecipient();
+    EXPECT_FALSE(manager_->CheckSystemAbility(SA_ID)->AddDeathRecipient(recipient));
+    EXPECT_FALSE(manager_->CheckSystemAbility(OTHER_ID)->AddDeathRecipient(recipient));
+    SamgrHostControl::SetDeathRecipientsRefused(false);
+    EXPECT_TRUE(manager_->CheckSystemAbility(SA_ID)->AddDeathRecipient(recipient));
+}
+
+TEST_F(SamgrTest, KilledAbilityIsDeadAbsentAndLoadableAgain)
+{
+    SamgrHostControl::RegisterLoader(SA_ID, [] { return sptr<IRemoteObject>(new RecordingStub()); });
+    sptr<IRemoteObject> before = LoadAndWait(SA_ID)->object_;
+    ASSERT_NE(before, nullptr);
+    sptr<CountingRecipient> recipient = new CountingRecipient();
+    ASSERT_TRUE(before->AddDeathRecipient(recipient));
+
+    EXPECT_TRUE(SamgrHostControl::KillSystemAbility(SA_ID));
+    EXPECT_FALSE(SamgrHostControl::KillSystemAbility(SA_ID));
+    recipient->WaitForCalls(1);
+    IpcThreads::Drain();
+    EXPECT_EQ(recipient->Calls(), 1);
+    EXPECT_TRUE(recipient->OnIpcThread());
+    EXPECT_EQ(recipient->Died(), before);
+
+    MessageParcel data;
+    MessageParcel reply;
+    MessageOption option;
+    EXPECT_EQ(before->SendRequest(1, data, reply, option), ERR_DEAD_OBJECT);
+    EXPECT_EQ(manager_->CheckSystemAbility(SA_ID), nullptr);
+
+    sptr<IRemoteObject> after = LoadAndWait(SA_ID)->object_;
+    ASSERT_NE(after, nullptr);
+    EXPECT_NE(after, before);
+    EXPECT_FALSE(after->IsObjectDead());
+}
+
+TEST_F(SamgrTest, SynchronousLoadWaitsForTheAbility)
+{
+    SamgrHostControl::RegisterLoader(SA_ID, [this] { return sptr<IRemoteObject>(stub_); });
+    sptr<IRemoteObject> object = manager_->LoadSystemAbility(SA_ID, 5);
+    ASSERT_NE(object, nullptr);
+    EXPECT_EQ(object, manager_->CheckSystemAbility(SA_ID));
+    EXPECT_EQ(manager_->LoadSystemAbility(UNKNOWN_ID, 5), nullptr);
+}
+
+} // namespace
+} // namespace OHOS
