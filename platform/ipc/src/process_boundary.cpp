@@ -28,25 +28,28 @@ public:
 
     sptr<IRemoteObject> ForwarderOf(const sptr<IRemoteObject>& local)
     {
+        // References taken under the lock are dropped after it: dropping the last one runs destructors.
+        std::vector<sptr<IPCObjectProxy>> held;
         std::lock_guard<std::mutex> lock(mutex_);
         auto it = forwarders_.find(local.GetRefPtr());
         if (it != forwarders_.end()) {
-            sptr<IPCObjectProxy> forwarder = it->second.promote();
-            if (forwarder != nullptr && !forwarder->IsObjectDead()) {
-                return forwarder;
+            held.push_back(it->second.promote());
+            if (held.back() != nullptr && !held.back()->IsObjectDead()) {
+                return held.back();
             }
         }
-        ForgetExpired();
+        ForgetExpired(held);
         sptr<IPCObjectProxy> forwarder = new IPCObjectProxy(local);
         forwarders_[local.GetRefPtr()] = forwarder;
         return forwarder;
     }
 
 private:
-    void ForgetExpired()
+    void ForgetExpired(std::vector<sptr<IPCObjectProxy>>& held)
     {
         for (auto it = forwarders_.begin(); it != forwarders_.end();) {
-            it = it->second.promote() == nullptr ? forwarders_.erase(it) : std::next(it);
+            held.push_back(it->second.promote());
+            it = held.back() == nullptr ? forwarders_.erase(it) : std::next(it);
         }
     }
 
