@@ -26,7 +26,7 @@ TEST_F(ShareServiceTest, CallersSurviveTheServiceDyingAndComingBack)
     auto callback = std::make_shared<CountingDiedCallback>();
     Client().RegisterDiedCallback(callback);
     constexpr int CALLERS = 4;
-    constexpr int CALLS = 60;
+    constexpr int CALLS = 200;
     constexpr int KILLS = 5;
     std::atomic<int> answered{0};
     std::atomic<int> unexpected{0};
