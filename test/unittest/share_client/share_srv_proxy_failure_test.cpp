@@ -74,6 +74,15 @@ TEST_F(ShareSrvProxyFailureTest, WithoutRemoteEveryRequestReturnsItsNeutralResul
     EXPECT_EQ(info, "untouched");
 }
 
+TEST_F(ShareSrvProxyFailureTest, ANullCommonListenerIsRefusedByTheProxyItself)
+{
+    sptr<ZelkonService> proxy = new ShareSrvProxy(stub_);
+    EXPECT_EQ(proxy->RegisterCommonReceiveListener(nullptr), 0);
+    EXPECT_TRUE(stub_->Codes().empty());
+    EXPECT_EQ(proxy->RegisterCommonReceiveListener(new TestRemote<ICommonReceiveListener>()), 1);
+    EXPECT_EQ(stub_->Codes(), std::vector<uint32_t>{15});
+}
+
 TEST_F(ShareSrvProxyFailureTest, AFailedPayloadWriteSendsNothing)
 {
     TransmitParam param = MakeTransmitParam();
