@@ -15,7 +15,6 @@
 
 #include "iremote_object.h"
 #include "share_death_recipient.h"
-#include "share_log.h"
 #include "share_sa_died_callback.h"
 #include "singleton.h"
 #include "zelkon_service.h"
@@ -25,6 +24,8 @@ namespace OHOS {
 namespace Zelkon {
 
 inline constexpr int32_t SHARE_SERVICE_SA_ID = 65569;
+
+struct LogSite;
 
 class ShareClient : public DelayedRefSingleton<ShareClient> {
     DECLARE_DELAYED_REF_SINGLETON(ShareClient)

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include "iservice_registry.h"
+#include "share_log.h"
 
 namespace OHOS {
 namespace Zelkon {
