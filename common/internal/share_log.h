@@ -69,4 +69,9 @@ inline constexpr LogLabel SHARE_MANAGER_SERVICE_LABEL{"ShareManagerService", 0xD
 #define SHARE_MANAGER_SERVICE_LOGE(fmt, ...)                                                                           \
     SHARE_LOG(::OHOS::Zelkon::SHARE_MANAGER_SERVICE_LABEL, LOG_ERROR, fmt, ##__VA_ARGS__)
 
+#define SHARE_MANAGER_PROXY_LOGD(fmt, ...)                                                                             \
+    SHARE_LOG(::OHOS::Zelkon::SHARE_MANAGER_PROXY_LABEL, LOG_DEBUG, fmt, ##__VA_ARGS__)
+#define SHARE_MANAGER_PROXY_LOGI(fmt, ...)                                                                             \
+    SHARE_LOG(::OHOS::Zelkon::SHARE_MANAGER_PROXY_LABEL, LOG_INFO, fmt, ##__VA_ARGS__)
+
 #endif // SHARE_LOG_H

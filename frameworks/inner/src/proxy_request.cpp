@@ -6,7 +6,9 @@ namespace Zelkon {
 ProxyRequest::ProxyRequest(const RequestLabels& labels, const LogSite& site, const RequestTexts& texts) :
     labels_(labels), site_(site), texts_(texts)
 {
-    SHARE_LOG_AT(labels_.texts, texts_.enterLevel, site_, "%{public}s", texts_.enter);
+    if (texts_.enter != nullptr) {
+        SHARE_LOG_AT(labels_.texts, texts_.enterLevel, site_, "%{public}s", texts_.enter);
+    }
 }
 
 bool ProxyRequest::HasRemote(sptr<IRemoteObject> remote)

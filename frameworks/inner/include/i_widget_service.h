@@ -1,0 +1,113 @@
+/*
+ * The remote interface of the share manager service (system ability 65570) and its request codes. The codes are
+ * part of the protocol with the service: they do not follow the order of the operations in three places.
+ */
+#ifndef I_WIDGET_SERVICE_H
+#define I_WIDGET_SERVICE_H
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "bytes_info.h"
+#include "data_bean.h"
+#include "i_sender_action_callback.h"
+#include "iremote_broker.h"
+#include "send_bean.h"
+#include "share_account_info.h"
+#include "share_device_info.h"
+#include "zelkon_api_callback.h"
+#include "zelkon_receiver.h"
+#include "zelkon_widget_service_callback.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+inline constexpr int32_t SHARE_MANAGER_SA_ID = 65570;
+
+enum WidgetServiceCode : uint32_t {
+    SET_SHARE_ENABLE = 1,
+    SET_SHARE_ENABLE_WITH_CONFIRM = 2,
+    IS_ENABLED = 3,
+    GET_ENABLE_STATE = 4,
+    REGISTER_WIDGET_CALLBACK = 5,
+    UNREGISTER_WIDGET_CALLBACK = 6,
+    START_DISCOVERY = 7,
+    STOP_DISCOVERY = 8,
+    START_CONNECT = 9,
+    STOP_CONNECT = 10,
+    GET_SENDING_USER_LIST = 11,
+    PREPARE_SEND = 12,
+    SEND = 13,
+    SEND_BYTES = 14,
+    SEND_FILE = 15,
+    CANCEL = 16,
+    REGISTER_SENDER_ACTION_CALLBACK = 17,
+    UNREGISTER_SENDER_ACTION_CALLBACK = 18,
+    GET_RECEIVER_ACTION_CALLBACK = 19,
+    GET_PREVIEW_DATA = 20,
+    GET_ALL_USER_LIST = 21,
+    GET_ACCOUNT_INFO = 22,
+    SET_SHARE_ACCOUNT_PERMISSION = 23,
+    REGISTER_VX_SHARE_API_WIDGET_CALLBACK = 24,
+    UNREGISTER_VX_SHARE_API_WIDGET_CALLBACK = 25,
+    REGISTER_VX_SHARE_API_EVENT = 26,
+    UNREGISTER_VX_SHARE_API_EVENT = 27,
+    NOTIFY_INFO = 28,
+    APPLY_URI_PERMISSION = 29,
+    SWING_CONFIRM = 30,
+    IS_APP_FOREGROUND = 31,
+    REGISTER_SHARE_API_CALLBACK = 32,
+    UNREGISTER_SHARE_API_CALLBACK = 33,
+    REGISTER_SHARE_EVENT_CALLBACK = 34,
+    UNREGISTER_SHARE_EVENT_CALLBACK = 35,
+    IS_FOCUS_PIDS_REGISTER_SWING = 36,
+};
+
+class IWidgetService : public IRemoteBroker {
+public:
+    DECLARE_INTERFACE_DESCRIPTOR(u"ohos.Zelkon.IWidgetService");
+
+    virtual bool SetShareEnable(int32_t type, int32_t state, bool enable) = 0;
+    virtual bool SetShareEnableWithConfirm(int32_t type, int32_t state, bool enable, bool confirm) = 0;
+    virtual bool IsEnabled() = 0;
+    virtual int32_t GetEnableState() = 0;
+    virtual bool IsFocusPidsRegisterSwing() = 0;
+    virtual bool RegisterWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback) = 0;
+    virtual bool UnRegisterWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback) = 0;
+    virtual bool StartDiscovery() = 0;
+    virtual bool StopDiscovery() = 0;
+    virtual bool StartConnect() = 0;
+    virtual bool StopConnect() = 0;
+    virtual std::vector<ShareDeviceInfo> GetAllUserList() = 0;
+    virtual std::vector<ShareDeviceInfo> GetSendingUserList() = 0;
+    virtual bool PrepareSend(const ShareDeviceInfo& deviceInfo) = 0;
+    virtual bool Send(const ShareDeviceInfo& deviceInfo, SendBean& sendBean, const std::string& packageName) = 0;
+    virtual bool SendFile(const ShareDeviceInfo& deviceInfo, const DataBean& dataBean,
+                          const std::string& packageName) = 0;
+    virtual bool SendBytes(const ShareDeviceInfo& deviceInfo, const BytesInfo& bytesInfo) = 0;
+    virtual bool Cancel(const ShareDeviceInfo& deviceInfo) = 0;
+    virtual bool RegisterSenderActionCallback(const sptr<ISenderActionCallback>& callback) = 0;
+    virtual bool UnRegisterSenderActionCallback(const sptr<ISenderActionCallback>& callback) = 0;
+    virtual sptr<ZelkonReceiver> GetReceiverActionCallback() = 0;
+    virtual std::string GetPreviewData() = 0;
+    virtual ShareAccountInfo GetAccountInfo() = 0;
+    virtual bool SetShareAccountPermission(int32_t permission) = 0;
+    virtual bool RegisterVxShareApiWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback) = 0;
+    virtual bool UnRegisterVxShareApiWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback) = 0;
+    virtual bool RegisterVxShareApiEvent(const std::string& event) = 0;
+    virtual bool UnRegisterVxShareApiEvent(const std::string& event) = 0;
+    virtual bool NotifyInfo(const ShareDeviceInfo& deviceInfo, int32_t info) = 0;
+    virtual bool ApplyUriPermission(const std::string& packageName) = 0;
+    virtual bool SwingConfirm(const ShareDeviceInfo& deviceInfo, int32_t confirm) = 0;
+    virtual bool IsAppForeground(const std::string& packageName) = 0;
+    virtual bool RegisterShareApiCallback(const sptr<ZelkonApiCallback>& callback) = 0;
+    virtual bool UnregisterShareApiCallback(const sptr<ZelkonApiCallback>& callback) = 0;
+    virtual bool RegisterShareEventCallback(int32_t eventType, int32_t eventId) = 0;
+    virtual bool UnregisterShareEventCallback(int32_t eventType, int32_t eventId) = 0;
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // I_WIDGET_SERVICE_H

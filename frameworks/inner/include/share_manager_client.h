@@ -1,0 +1,108 @@
+/*
+ * The process-wide entry to the share manager service: looks the running service up on first use, keeps its
+ * proxy, notices its death, and forwards every operation. Including this header gives a caller every type it needs.
+ */
+#ifndef SHARE_MANAGER_CLIENT_H
+#define SHARE_MANAGER_CLIENT_H
+
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#include "i_widget_service.h"
+#include "iremote_object.h"
+#include "share_log.h"
+#include "share_manager_died_callback.h"
+#include "singleton.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+class ShareManagerClient : public DelayedRefSingleton<ShareManagerClient> {
+    DECLARE_DELAYED_REF_SINGLETON(ShareManagerClient)
+
+public:
+    class ShareManagerDeathRecipient : public IRemoteObject::DeathRecipient {
+    public:
+        void OnRemoteDied(const wptr<IRemoteObject>& remote) override;
+        void SetDiedCallback(const std::weak_ptr<ShareManagerDiedCallback>& callback);
+
+    private:
+        // Registration may race with a death notice; the lock is never held while the callback runs.
+        std::mutex callbackMutex_;
+        std::weak_ptr<ShareManagerDiedCallback> diedCallback_;
+    };
+
+    bool SetShareEnable(int32_t type, int32_t state, bool enable);
+    bool SetShareEnableWithConfirm(int32_t type, int32_t state, bool enable, bool confirm);
+    bool IsEnabled();
+    int32_t GetEnableState();
+    bool IsFocusPidsRegisterSwing();
+    bool RegisterWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback);
+    bool UnRegisterWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback);
+    bool StartDiscovery();
+    bool StopDiscovery();
+    bool StartConnect();
+    bool StopConnect();
+    std::vector<ShareDeviceInfo> GetAllUserList();
+    std::vector<ShareDeviceInfo> GetSendingUserList();
+    bool PrepareSend(const ShareDeviceInfo& deviceInfo);
+    bool Send(const ShareDeviceInfo& deviceInfo, SendBean& sendBean, const std::string& packageName);
+    bool SendFile(const ShareDeviceInfo& deviceInfo, const DataBean& dataBean, const std::string& packageName);
+    bool SendBytes(const ShareDeviceInfo& deviceInfo, const BytesInfo& bytesInfo);
+    bool Cancel(const ShareDeviceInfo& deviceInfo);
+    bool RegisterSenderActionCallback(const sptr<ISenderActionCallback>& callback);
+    bool UnRegisterSenderActionCallback(const sptr<ISenderActionCallback>& callback);
+    sptr<ZelkonReceiver> GetReceiverActionCallback();
+    std::string GetPreviewData();
+    ShareAccountInfo GetAccountInfo();
+    bool SetShareAccountPermission(int32_t permission);
+    bool RegisterVxShareApiWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback);
+    bool UnRegisterVxShareApiWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback);
+    bool RegisterVxShareApiEvent(const std::string& event);
+    bool UnRegisterVxShareApiEvent(const std::string& event);
+    bool NotifyInfo(const ShareDeviceInfo& deviceInfo, int32_t info);
+    bool ApplyUriPermission(const std::string& packageName);
+    bool SwingConfirm(const ShareDeviceInfo& deviceInfo, int32_t confirm);
+    bool IsAppForeground(const std::string& packageName);
+    bool RegisterShareApiCallback(const sptr<ZelkonApiCallback>& callback);
+    bool UnregisterShareApiCallback(const sptr<ZelkonApiCallback>& callback);
+    bool RegisterShareEventCallback(int32_t eventType, int32_t eventId);
+    bool UnregisterShareEventCallback(int32_t eventType, int32_t eventId);
+
+    // 0 when the proxy is there (or the lookup succeeded), -1 when the service is not running or cannot be watched.
+    int32_t Connect();
+    // Connect, then a copy of the proxy; null when the service cannot be reached.
+    sptr<IWidgetService> GetShareManagerSrvProxy();
+    // Drops the proxy when remote is the object it talks to; a stale notice changes nothing.
+    void ResetProxy(const wptr<IRemoteObject>& remote);
+    // Held weakly: the caller keeps the callback alive. Null empties the slot.
+    void RegisterDiedCallback(const std::shared_ptr<ShareManagerDiedCallback>& callback);
+
+private:
+    // An operation's enter and exit lines (null: none) and its text for a missing proxy.
+    struct ForwardTexts {
+        const char* enter;
+        const char* exit;
+        const char* noProxy = "shareManagerSrvProxy_ is nullptr";
+        LogLevel level = LOG_DEBUG;
+    };
+
+    // The one body of every forwarding operation: enter line, the proxy or the neutral result after the no-proxy
+    // line, the call outside the lock, exit line. Lines are logged at the operation's site.
+    template <typename Result, typename Call>
+    Result Forward(const LogSite& site, const ForwardTexts& texts, Result neutral, Call&& call);
+
+    sptr<IWidgetService> CopyProxy();
+
+    std::mutex mutex_;
+    sptr<IWidgetService> shareManagerSrvProxy_;
+    sptr<ShareManagerDeathRecipient> deathRecipient_;
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // SHARE_MANAGER_CLIENT_H
