@@ -17,9 +17,9 @@
 namespace OHOS {
 namespace Zelkon {
 
-// An operation's enter and exit lines. A null enter text means the operation logs no enter line; a null exit text
-// means the operation has none, or logs its exit itself
-// with a value. An operation that names itself in its failure lines gives the prefix ("GetAllUserList ").
+// An operation's enter and exit lines. A null enter text means the operation has none. A null exit text means the
+// operation has none, or logs its exit itself with a value. An operation that names itself in its failure lines gives
+// the prefix ("GetAllUserList ").
 struct RequestTexts {
     const char* enter;
     LogLevel enterLevel;

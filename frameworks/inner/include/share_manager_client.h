@@ -13,12 +13,13 @@
 
 #include "i_widget_service.h"
 #include "iremote_object.h"
-#include "share_log.h"
 #include "share_manager_died_callback.h"
 #include "singleton.h"
 
 namespace OHOS {
 namespace Zelkon {
+
+struct LogSite;
 
 class ShareManagerClient : public DelayedRefSingleton<ShareManagerClient> {
     DECLARE_DELAYED_REF_SINGLETON(ShareManagerClient)
@@ -82,13 +83,7 @@ public:
     void RegisterDiedCallback(const std::shared_ptr<ShareManagerDiedCallback>& callback);
 
 private:
-    // An operation's enter and exit lines (null: none) and its text for a missing proxy.
-    struct ForwardTexts {
-        const char* enter;
-        const char* exit;
-        const char* noProxy = "shareManagerSrvProxy_ is nullptr";
-        LogLevel level = LOG_DEBUG;
-    };
+    struct ForwardTexts;
 
     // The one body of every forwarding operation: enter line, the proxy or the neutral result after the no-proxy
     // line, the call outside the lock, exit line. Lines are logged at the operation's site.

@@ -1,6 +1,7 @@
 #include "share_manager_client.h"
 
 #include "iservice_registry.h"
+#include "share_log.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -100,6 +101,21 @@ void ShareManagerClient::ShareManagerDeathRecipient::SetDiedCallback(
     std::lock_guard<std::mutex> lock(callbackMutex_);
     diedCallback_ = callback;
 }
+
+// An operation's enter and exit lines (null: none), their level, and its text for a missing proxy.
+struct ShareManagerClient::ForwardTexts {
+    ForwardTexts(const char* enterText, const char* exitText,
+                 const char* noProxyText = "shareManagerSrvProxy_ is nullptr", LogLevel textLevel = LOG_DEBUG) :
+        enter(enterText),
+        exit(exitText), noProxy(noProxyText), level(textLevel)
+    {
+    }
+
+    const char* enter;
+    const char* exit;
+    const char* noProxy;
+    LogLevel level;
+};
 
 template <typename Result, typename Call>
 Result ShareManagerClient::Forward(const LogSite& site, const ForwardTexts& texts, Result neutral, Call&& call)
