@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "iremote_proxy.h"
 #include "share_manager_harness.h"
 #include "share_manager_wire.h"
 
