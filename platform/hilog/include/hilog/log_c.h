@@ -1,0 +1,55 @@
+#ifndef HIVIEWDFX_HILOG_C_H
+#define HIVIEWDFX_HILOG_C_H
+
+#include <stdarg.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+#ifndef LOG_DOMAIN
+#define LOG_DOMAIN 0
+#endif
+
+#ifndef LOG_TAG
+#define LOG_TAG NULL
+#endif
+
+typedef enum {
+    LOG_TYPE_MIN = 0,
+    LOG_APP = 0,
+    LOG_INIT = 1,
+    LOG_CORE = 3,
+    LOG_KMSG = 4,
+    LOG_ONLY_PRERELEASE = 5,
+    LOG_TYPE_MAX
+} LogType;
+
+typedef enum {
+    LOG_LEVEL_MIN = 0,
+    LOG_DEBUG = 3,
+    LOG_INFO = 4,
+    LOG_WARN = 5,
+    LOG_ERROR = 6,
+    LOG_FATAL = 7,
+    LOG_LEVEL_MAX,
+} LogLevel;
+
+int HiLogPrint(LogType type, LogLevel level, unsigned int domain, const char* tag, const char* fmt, ...);
+int HiLogPrintArgs(LogType type, LogLevel level, unsigned int domain, const char* tag, const char* fmt, va_list ap);
+
+typedef void (*LogCallback)(const LogType type, const LogLevel level, const unsigned int domain, const char* tag,
+                            const char* msg);
+void LOG_SetCallback(LogCallback callback);
+
+#define HILOG_DEBUG(type, ...) ((void)HiLogPrint((type), LOG_DEBUG, LOG_DOMAIN, LOG_TAG, __VA_ARGS__))
+#define HILOG_INFO(type, ...) ((void)HiLogPrint((type), LOG_INFO, LOG_DOMAIN, LOG_TAG, __VA_ARGS__))
+#define HILOG_WARN(type, ...) ((void)HiLogPrint((type), LOG_WARN, LOG_DOMAIN, LOG_TAG, __VA_ARGS__))
+#define HILOG_ERROR(type, ...) ((void)HiLogPrint((type), LOG_ERROR, LOG_DOMAIN, LOG_TAG, __VA_ARGS__))
+#define HILOG_FATAL(type, ...) ((void)HiLogPrint((type), LOG_FATAL, LOG_DOMAIN, LOG_TAG, __VA_ARGS__))
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif // HIVIEWDFX_HILOG_C_H

@@ -1,0 +1,94 @@
+/*
+ * Lazily created process singletons. A DelayedRefSingleton is created on first use under a mutex (double-checked)
+ * and never destroyed.
+ */
+#ifndef UTILS_SINGLETON_H
+#define UTILS_SINGLETON_H
+
+#include <atomic>
+#include <memory>
+#include <mutex>
+
+#include "nocopyable.h"
+
+namespace OHOS {
+
+#define DECLARE_DELAYED_SINGLETON(MyClass)                                                                             \
+public:                                                                                                                \
+    ~MyClass();                                                                                                        \
+                                                                                                                       \
+private:                                                                                                               \
+    friend DelayedSingleton<MyClass>;                                                                                  \
+    MyClass();
+
+#define DECLARE_DELAYED_REF_SINGLETON(MyClass)                                                                         \
+private:                                                                                                               \
+    friend DelayedRefSingleton<MyClass>;                                                                               \
+    ~MyClass();                                                                                                        \
+    MyClass();
+
+#define DECLARE_SINGLETON(MyClass)                                                                                     \
+private:                                                                                                               \
+    friend Singleton<MyClass>;                                                                                         \
+    MyClass& operator=(const MyClass&) = delete;                                                                       \
+    MyClass(const MyClass&) = delete;                                                                                  \
+    MyClass();                                                                                                         \
+    ~MyClass();
+
+template <typename T>
+class DelayedRefSingleton : public NoCopyable {
+public:
+    static T& GetInstance()
+    {
+        T* instance = instance_.load(std::memory_order_acquire);
+        if (instance == nullptr) {
+            std::lock_guard<std::mutex> lock(mutex_);
+            instance = instance_.load(std::memory_order_relaxed);
+            if (instance == nullptr) {
+                instance = new T();
+                instance_.store(instance, std::memory_order_release);
+            }
+        }
+        return *instance;
+    }
+
+private:
+    static inline std::atomic<T*> instance_{nullptr};
+    static inline std::mutex mutex_;
+};
+
+template <typename T>
+class DelayedSingleton : public NoCopyable {
+public:
+    static std::shared_ptr<T> GetInstance()
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        if (instance_ == nullptr) {
+            instance_ = std::shared_ptr<T>(new T());
+        }
+        return instance_;
+    }
+    static void DestroyInstance()
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        instance_.reset();
+    }
+
+private:
+    static inline std::shared_ptr<T> instance_;
+    static inline std::mutex mutex_;
+};
+
+template <typename T>
+class Singleton : public NoCopyable {
+public:
+    static T& GetInstance()
+    {
+        static T instance;
+        return instance;
+    }
+};
+
+} // namespace OHOS
+
+#endif // UTILS_SINGLETON_H

@@ -1,0 +1,426 @@
+#include "parcel.h"
+
+#include <algorithm>
+#include <climits>
+#include <cstdlib>
+#include <cstring>
+
+namespace OHOS {
+namespace {
+
+constexpr size_t WORD = 4;
+constexpr size_t MIN_CAPACITY = 64;
+constexpr size_t CAPACITY_STEP = 4096;
+
+size_t Pad4(size_t size)
+{
+    return (size + WORD - 1) & ~(WORD - 1);
+}
+
+// 64, 128, ... doubling up to 4096, then whole steps of 4096 with one step of headroom.
+size_t GrownCapacity(size_t required)
+{
+    if (required > CAPACITY_STEP) {
+        return (required / CAPACITY_STEP) * CAPACITY_STEP + CAPACITY_STEP;
+    }
+    size_t capacity = MIN_CAPACITY;
+    while (capacity < required) {
+        capacity *= 2;
+    }
+    return capacity;
+}
+
+} // namespace
+
+Parcel::Parcel() = default;
+
+Parcel::Parcel(Allocator*) {}
+
+Parcel::~Parcel()
+{
+    std::free(data_);
+}
+
+bool Parcel::SetMaxCapacity(size_t newMaxCapacity)
+{
+    if (newMaxCapacity <= maxCapacity_) {
+        return false;
+    }
+    maxCapacity_ = newMaxCapacity;
+    return true;
+}
+
+bool Parcel::SetDataCapacity(size_t newCapacity)
+{
+    if (newCapacity < dataSize_) {
+        return false;
+    }
+    auto* grown = static_cast<uint8_t*>(std::realloc(data_, newCapacity == 0 ? 1 : newCapacity));
+    if (grown == nullptr) {
+        return false;
+    }
+    data_ = grown;
+    capacity_ = newCapacity;
+    return true;
+}
+
+bool Parcel::SetDataSize(size_t dataSize)
+{
+    if (dataSize > capacity_) {
+        return false;
+    }
+    dataSize_ = dataSize;
+    return true;
+}
+
+bool Parcel::EnsureCapacity(size_t required)
+{
+    if (required <= capacity_) {
+        return true;
+    }
+    return SetDataCapacity(std::min(GrownCapacity(required), maxCapacity_));
+}
+
+uint8_t* Parcel::Reserve(size_t size)
+{
+    if (size > maxCapacity_ || writeCursor_ > maxCapacity_ - size || !EnsureCapacity(writeCursor_ + size)) {
+        return nullptr;
+    }
+    uint8_t* start = data_ + writeCursor_;
+    writeCursor_ += size;
+    dataSize_ = std::max(dataSize_, writeCursor_);
+    return start;
+}
+
+bool Parcel::RewindRead(size_t newPosition)
+{
+    if (newPosition > dataSize_) {
+        return false;
+    }
+    readCursor_ = newPosition;
+    return true;
+}
+
+bool Parcel::RewindWrite(size_t offsets)
+{
+    if (offsets > dataSize_) {
+        return false;
+    }
+    writeCursor_ = offsets;
+    dataSize_ = offsets;
+    readCursor_ = std::min(readCursor_, offsets);
+    return true;
+}
+
+void Parcel::SkipBytes(size_t bytes)
+{
+    size_t padded = Pad4(bytes);
+    readCursor_ = padded <= GetReadableBytes() ? readCursor_ + padded : dataSize_;
+}
+
+template <typename T>
+bool Parcel::WriteWord(T value)
+{
+    uint8_t* target = Reserve(sizeof(T));
+    if (target == nullptr) {
+        return false;
+    }
+    std::memcpy(target, &value, sizeof(T));
+    return true;
+}
+
+bool Parcel::WritePadded(const void* data, size_t size)
+{
+    uint8_t* target = Reserve(Pad4(size));
+    if (target == nullptr) {
+        return false;
+    }
+    std::memcpy(target, data, size);
+    std::memset(target + size, 0, Pad4(size) - size);
+    return true;
+}
+
+bool Parcel::WriteBool(bool value)
+{
+    return WriteWord<int32_t>(value ? 1 : 0);
+}
+
+bool Parcel::WriteInt8(int8_t value)
+{
+    return WriteWord<int32_t>(value);
+}
+
+bool Parcel::WriteInt16(int16_t value)
+{
+    return WriteWord<int32_t>(value);
+}
+
+bool Parcel::WriteInt32(int32_t value)
+{
+    return WriteWord(value);
+}
+
+bool Parcel::WriteInt64(int64_t value)
+{
+    return WriteWord(value);
+}
+
+bool Parcel::WriteUint8(uint8_t value)
+{
+    return WriteWord<uint32_t>(value);
+}
+
+bool Parcel::WriteUint16(uint16_t value)
+{
+    return WriteWord<uint32_t>(value);
+}
+
+bool Parcel::WriteUint32(uint32_t value)
+{
+    return WriteWord(value);
+}
+
+bool Parcel::WriteUint64(uint64_t value)
+{
+    return WriteWord(value);
+}
+
+bool Parcel::WriteFloat(float value)
+{
+    return WriteWord(value);
+}
+
+bool Parcel::WriteDouble(double value)
+{
+    return WriteWord(value);
+}
+
+bool Parcel::WritePointer(uintptr_t value)
+{
+    return WriteWord<uint64_t>(value);
+}
+
+bool Parcel::WriteBuffer(const void* data, size_t size)
+{
+    return data != nullptr && size != 0 && WritePadded(data, size);
+}
+
+bool Parcel::WriteUnpadBuffer(const void* data, size_t size)
+{
+    return WriteBuffer(data, size);
+}
+
+bool Parcel::WriteCString(const char* value)
+{
+    return value != nullptr && WritePadded(value, std::strlen(value) + 1);
+}
+
+// The length word is reserved first: when the body does not fit, it stays in the parcel.
+template <typename Str>
+bool Parcel::WriteText(const Str& value, size_t maxLength)
+{
+    using Unit = typename Str::value_type;
+    size_t length = value.size();
+    if (length >= maxLength || !WriteInt32(static_cast<int32_t>(length))) {
+        return false;
+    }
+    size_t bytes = (length + 1) * sizeof(Unit);
+    uint8_t* target = Reserve(Pad4(bytes));
+    if (target == nullptr) {
+        return false;
+    }
+    std::memcpy(target, value.data(), length * sizeof(Unit));
+    std::memset(target + length * sizeof(Unit), 0, Pad4(bytes) - length * sizeof(Unit));
+    return true;
+}
+
+bool Parcel::WriteString(const std::string& value)
+{
+    return WriteText(value, INT32_MAX);
+}
+
+bool Parcel::WriteString16(const std::u16string& value)
+{
+    return WriteText(value, INT32_MAX / 2);
+}
+
+bool Parcel::WriteParcelable(const Parcelable* object)
+{
+    if (object == nullptr) {
+        return WriteInt32(0);
+    }
+    size_t start = writeCursor_;
+    if (!WriteInt32(1)) {
+        return false;
+    }
+    bool written = object->Marshalling(*this);
+    // A remote object's record is withdrawn with its presence word; a plain record keeps what it wrote.
+    if (!written && object->asRemote_) {
+        RewindWrite(start);
+    }
+    return written;
+}
+
+bool Parcel::WriteStrongParcelable(const sptr<Parcelable>& object)
+{
+    if (object == nullptr) {
+        (void)WriteInt32(0);
+        return true;
+    }
+    object->SetBehavior(Parcelable::BehaviorFlag::HOLD_OBJECT);
+    return WriteParcelable(object.GetRefPtr());
+}
+
+template <typename T>
+bool Parcel::ReadWord(T& value)
+{
+    if (GetReadableBytes() < sizeof(T)) {
+        return false;
+    }
+    std::memcpy(&value, data_ + readCursor_, sizeof(T));
+    readCursor_ += sizeof(T);
+    return true;
+}
+
+// Small integers travel as one word; the value is its low bits.
+template <typename T, typename Word>
+T Parcel::ReadWordOr(T fallback)
+{
+    Word word;
+    return ReadWord(word) ? static_cast<T>(word) : fallback;
+}
+
+bool Parcel::ReadBool()
+{
+    return ReadWordOr<int32_t>(0) != 0;
+}
+
+bool Parcel::ReadBool(bool& value)
+{
+    int32_t word;
+    if (!ReadWord(word)) {
+        return false;
+    }
+    value = word != 0;
+    return true;
+}
+
+#define SMALL_WORD_READERS(Name, Type, Word)                                                                           \
+    Type Parcel::Read##Name()                                                                                          \
+    {                                                                                                                  \
+        return ReadWordOr<Type, Word>(0);                                                                              \
+    }                                                                                                                  \
+    bool Parcel::Read##Name(Type& value)                                                                               \
+    {                                                                                                                  \
+        Word word;                                                                                                     \
+        if (!ReadWord(word)) {                                                                                         \
+            return false;                                                                                              \
+        }                                                                                                              \
+        value = static_cast<Type>(word);                                                                               \
+        return true;                                                                                                   \
+    }
+
+SMALL_WORD_READERS(Int8, int8_t, int32_t)
+SMALL_WORD_READERS(Int16, int16_t, int32_t)
+SMALL_WORD_READERS(Uint8, uint8_t, uint32_t)
+SMALL_WORD_READERS(Uint16, uint16_t, uint32_t)
+SMALL_WORD_READERS(Int32, int32_t, int32_t)
+SMALL_WORD_READERS(Uint32, uint32_t, uint32_t)
+SMALL_WORD_READERS(Int64, int64_t, int64_t)
+SMALL_WORD_READERS(Uint64, uint64_t, uint64_t)
+SMALL_WORD_READERS(Float, float, float)
+SMALL_WORD_READERS(Double, double, double)
+
+#undef SMALL_WORD_READERS
+
+uintptr_t Parcel::ReadPointer()
+{
+    return static_cast<uintptr_t>(ReadWordOr<uint64_t>(0));
+}
+
+const uint8_t* Parcel::ReadBuffer(size_t length)
+{
+    if (length > GetReadableBytes()) {
+        return nullptr;
+    }
+    const uint8_t* start = data_ + readCursor_;
+    readCursor_ += length;
+    return start;
+}
+
+const uint8_t* Parcel::ReadUnpadBuffer(size_t length)
+{
+    const uint8_t* start = ReadBuffer(length);
+    if (start != nullptr) {
+        readCursor_ = std::min(readCursor_ + (Pad4(length) - length), dataSize_);
+    }
+    return start;
+}
+
+const char* Parcel::ReadCString()
+{
+    const auto* start = reinterpret_cast<const char*>(data_ + readCursor_);
+    const void* end = GetReadableBytes() == 0 ? nullptr : std::memchr(start, 0, GetReadableBytes());
+    if (end == nullptr) {
+        return nullptr;
+    }
+    SkipBytes(static_cast<const char*>(end) - start + 1);
+    return start;
+}
+
+// A negative length leaves the cursor after the length word; a body that is too short or not terminated puts it
+// back before the length word. The target is emptied on every failure.
+template <typename Str>
+bool Parcel::ReadText(Str& value)
+{
+    using Unit = typename Str::value_type;
+    size_t start = readCursor_;
+    int32_t length;
+    if (!ReadWord(length) || length < 0) {
+        value.clear();
+        return false;
+    }
+    size_t count = static_cast<size_t>(length);
+    size_t bytes = (count + 1) * sizeof(Unit);
+    const uint8_t* body = data_ + readCursor_;
+    Unit terminator = 0;
+    if (bytes <= GetReadableBytes()) {
+        std::memcpy(&terminator, body + count * sizeof(Unit), sizeof(Unit));
+    }
+    if (bytes > GetReadableBytes() || terminator != 0) {
+        readCursor_ = start;
+        value.clear();
+        return false;
+    }
+    // memcpy: a string16 body need not be aligned for its units.
+    value.resize(count);
+    std::memcpy(&value[0], body, count * sizeof(Unit));
+    readCursor_ = std::min(readCursor_ + Pad4(bytes), dataSize_);
+    return true;
+}
+
+std::string Parcel::ReadString()
+{
+    std::string value;
+    ReadText(value);
+    return value;
+}
+
+bool Parcel::ReadString(std::string& value)
+{
+    return ReadText(value);
+}
+
+std::u16string Parcel::ReadString16()
+{
+    std::u16string value;
+    ReadText(value);
+    return value;
+}
+
+bool Parcel::ReadString16(std::u16string& value)
+{
+    return ReadText(value);
+}
+
+} // namespace OHOS
