@@ -74,4 +74,25 @@ inline constexpr LogLabel SHARE_MANAGER_SERVICE_LABEL{"ShareManagerService", 0xD
 #define SHARE_MANAGER_PROXY_LOGI(fmt, ...)                                                                             \
     SHARE_LOG(::OHOS::Zelkon::SHARE_MANAGER_PROXY_LABEL, LOG_INFO, fmt, ##__VA_ARGS__)
 
+#define SHARE_SERVICE_LOGI(fmt, ...) SHARE_LOG(::OHOS::Zelkon::SHARE_SERVICE_LABEL, LOG_INFO, fmt, ##__VA_ARGS__)
+#define SHARE_MANAGER_SERVICE_LOGI(fmt, ...)                                                                           \
+    SHARE_LOG(::OHOS::Zelkon::SHARE_MANAGER_SERVICE_LABEL, LOG_INFO, fmt, ##__VA_ARGS__)
+
+// A checked step of a record's writer or reader: logs text at the caller's site when ok is false, returns ok.
+#define SHARE_CHECKED(label, ok, text) ::OHOS::Zelkon::LoggedCheck((ok), ::OHOS::Zelkon::label, SHARE_LOG_SITE, (text))
+
+namespace OHOS {
+namespace Zelkon {
+
+inline bool LoggedCheck(bool ok, const LogLabel& label, const LogSite& site, const char* text)
+{
+    if (!ok) {
+        SHARE_LOG_AT(label, LOG_ERROR, site, "%{public}s", text);
+    }
+    return ok;
+}
+
+} // namespace Zelkon
+} // namespace OHOS
+
 #endif // SHARE_LOG_H

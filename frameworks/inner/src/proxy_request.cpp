@@ -1,5 +1,7 @@
 #include "proxy_request.h"
 
+#include "share_common_constants.h"
+
 namespace OHOS {
 namespace Zelkon {
 

@@ -1,5 +1,7 @@
 #include "share_client.h"
 
+#include "share_common_constants.h"
+
 #include <chrono>
 #include <unistd.h>
 

@@ -1,5 +1,7 @@
 #include "share_death_recipient.h"
 
+#include "share_common_constants.h"
+
 #include "share_client.h"
 #include "share_log.h"
 

@@ -1,5 +1,7 @@
 #include "share_manager_client.h"
 
+#include "share_common_constants.h"
+
 #include "iservice_registry.h"
 #include "share_log.h"
 

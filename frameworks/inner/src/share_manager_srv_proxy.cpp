@@ -1,5 +1,9 @@
 #include "share_manager_srv_proxy.h"
 
+#include "share_common_constants.h"
+#include "share_path_constants.h"
+#include "share_radar_constants.h"
+
 #include "parcel_util.h"
 
 namespace OHOS {

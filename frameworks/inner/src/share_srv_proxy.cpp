@@ -1,5 +1,7 @@
 #include "share_srv_proxy.h"
 
+#include "share_common_constants.h"
+
 #include "zelkon_service_code.h"
 
 namespace OHOS {

@@ -1,5 +1,7 @@
 #include "zelkon_service_load_callback.h"
 
+#include "share_common_constants.h"
+
 #include "share_client.h"
 #include "share_log.h"
 

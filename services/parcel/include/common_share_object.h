@@ -1,0 +1,31 @@
+#ifndef COMMON_SHARE_OBJECT_H
+#define COMMON_SHARE_OBJECT_H
+
+#include <string>
+#include <vector>
+
+#include "message_parcel.h"
+#include "share_item.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+// A generic share: files and a payload text that may exceed the parcel's string limits.
+class CommonShareObject {
+public:
+    int32_t type = 0;
+    int32_t timeout = 0;
+    std::vector<ShareItem> items;
+    std::string content;
+    std::string networkId;
+    bool resumable = false;
+
+    // Wire order: networkId, timeout, type, resumable, content (big string), item count, items.
+    bool Marshalling(MessageParcel& parcel) const;
+    bool WriteToParcel(MessageParcel& parcel) const { return Marshalling(parcel); }
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // COMMON_SHARE_OBJECT_H
