@@ -13,6 +13,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ipc_threads.h"
 #include "iremote_stub.h"
 #include "samgr_host_control.h"
 #include "scripted_stub.h"
@@ -68,6 +69,11 @@ protected:
         stub_ = new ScriptedStub(ZelkonService::GetDescriptor());
         sptr<ScriptedStub> stub = stub_;
         SamgrHostControl::RegisterLoader(SHARE_SERVICE_SA_ID, [stub] { return sptr<IRemoteObject>(stub); });
+        // Every test starts from a client whose service has died: the first test of a process would otherwise
+        // meet the constructor's own load.
+        Client().Connect();
+        SamgrHostControl::KillSystemAbility(SHARE_SERVICE_SA_ID);
+        IpcThreads::Drain();
     }
 
     void TearDown() override
