@@ -1,0 +1,102 @@
+/*
+ * Helpers of the record tests: the bytes of a parcel, parcels cut short, parcels filled up to a given room and
+ * a filled-in device record.
+ */
+#ifndef PARCEL_TEST_UTIL_H
+#define PARCEL_TEST_UTIL_H
+
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <string>
+#include <vector>
+
+#include "message_parcel.h"
+#include "share_device_info.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+inline std::vector<uint8_t> BytesOf(const Parcel& parcel, size_t from = 0)
+{
+    const auto* data = reinterpret_cast<const uint8_t*>(parcel.GetData());
+    if (data == nullptr || from >= parcel.GetDataSize()) {
+        return {};
+    }
+    return std::vector<uint8_t>(data + from, data + parcel.GetDataSize());
+}
+
+// Puts exactly the first length bytes into the parcel (WriteBuffer pads, so the padding is cut off again).
+inline void LoadBytes(Parcel& parcel, const std::vector<uint8_t>& bytes, size_t length)
+{
+    if (length == 0) {
+        return;
+    }
+    parcel.WriteBuffer(bytes.data(), length);
+    parcel.RewindWrite(length);
+}
+
+// Fills the parcel with zero bytes so that exactly room bytes (a multiple of 4) still fit under its limit.
+inline void FillLeaving(Parcel& parcel, size_t room)
+{
+    const std::vector<uint8_t> zeros(parcel.GetMaxCapacity() - parcel.GetDataSize() - room, 0);
+    if (!zeros.empty()) {
+        parcel.WriteBuffer(zeros.data(), zeros.size());
+    }
+}
+
+inline ShareDeviceInfo FilledDevice()
+{
+    ShareDeviceInfo device;
+    device.deviceName = "Living room tablet";
+    device.norvaneIdName = "ada@example";
+    device.avatar = "data:image/png;base64,iVBORw0KGgo=";
+    device.colorId = 3;
+    device.eventCode = 101;
+    device.stateCode = 2;
+    device.percent = 57;
+    device.speed = 1200;
+    device.isDisappeared = true;
+    device.deviceType = 17;
+    device.deviceId = "9F3C-11";
+    device.nearbyVersion = 9;
+    device.lastSharedTime = 1763800000123LL;
+    device.isSameAccount = true;
+    device.contactInfo.contactKind = 1;
+    device.contactInfo.contactName = "Ada";
+    device.contactInfo.contactPhoto = "photo";
+    device.isOHDevice = true;
+    device.deviceFounder = 0x80000001u;
+    device.concurentId = "c-42";
+    device.extraValue = -7;
+    return device;
+}
+
+inline void ExpectSameDevice(const ShareDeviceInfo& actual, const ShareDeviceInfo& expected)
+{
+    EXPECT_EQ(actual.deviceName, expected.deviceName);
+    EXPECT_EQ(actual.norvaneIdName, expected.norvaneIdName);
+    EXPECT_EQ(actual.avatar, expected.avatar);
+    EXPECT_EQ(actual.colorId, expected.colorId);
+    EXPECT_EQ(actual.eventCode, expected.eventCode);
+    EXPECT_EQ(actual.stateCode, expected.stateCode);
+    EXPECT_EQ(actual.percent, expected.percent);
+    EXPECT_EQ(actual.speed, expected.speed);
+    EXPECT_EQ(actual.isDisappeared, expected.isDisappeared);
+    EXPECT_EQ(actual.deviceType, expected.deviceType);
+    EXPECT_EQ(actual.deviceId, expected.deviceId);
+    EXPECT_EQ(actual.nearbyVersion, expected.nearbyVersion);
+    EXPECT_EQ(actual.lastSharedTime, expected.lastSharedTime);
+    EXPECT_EQ(actual.isSameAccount, expected.isSameAccount);
+    EXPECT_EQ(actual.contactInfo.contactKind, expected.contactInfo.contactKind);
+    EXPECT_EQ(actual.contactInfo.contactName, expected.contactInfo.contactName);
+    EXPECT_EQ(actual.contactInfo.contactPhoto, expected.contactInfo.contactPhoto);
+    EXPECT_EQ(actual.isOHDevice, expected.isOHDevice);
+    EXPECT_EQ(actual.deviceFounder, expected.deviceFounder);
+    EXPECT_EQ(actual.concurentId, expected.concurentId);
+    EXPECT_EQ(actual.extraValue, expected.extraValue);
+}
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // PARCEL_TEST_UTIL_H
