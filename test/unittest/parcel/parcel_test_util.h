@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "hilog/log_capture.h"
 #include "message_parcel.h"
 #include "share_device_info.h"
 
@@ -42,6 +43,17 @@ inline void FillLeaving(Parcel& parcel, size_t room)
     if (!zeros.empty()) {
         parcel.WriteBuffer(zeros.data(), zeros.size());
     }
+}
+
+inline std::vector<HiviewDFX::LogEntry> LinesOf(const HiviewDFX::ScopedLogCapture& capture, const std::string& tag)
+{
+    std::vector<HiviewDFX::LogEntry> lines;
+    for (const HiviewDFX::LogEntry& line : capture.Lines()) {
+        if (line.tag == tag) {
+            lines.push_back(line);
+        }
+    }
+    return lines;
 }
 
 inline ShareDeviceInfo FilledDevice()
