@@ -83,12 +83,17 @@ void ShareClient::SetShareSa(const sptr<IRemoteObject>& remoteObject)
     if (remoteObject == nullptr) {
         return;
     }
+    std::lock_guard<std::mutex> lock(mutex_);
+    // Concurrent Connects may each have asked for a load, all answered with the same object: the recipient is
+    // attached once, so each death is reported once.
+    if (shareProxy_ != nullptr && shareProxy_->AsObject() == remoteObject) {
+        return;
+    }
     // Without a death recipient the client would keep a dead proxy: the waiters rather run into their deadline.
     if (remoteObject->IsProxyObject() && !remoteObject->AddDeathRecipient(deathRecipient_)) {
         SHARE_CLIENT_LOGE("Add death recipient to share service failed");
         return;
     }
-    std::lock_guard<std::mutex> lock(mutex_);
     shareProxy_ = iface_cast<ZelkonService>(remoteObject);
     proxyReady_.notify_all();
 }

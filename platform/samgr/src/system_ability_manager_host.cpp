@@ -181,6 +181,7 @@ int32_t SystemAbilityManagerHost::AddSystemAbility(int32_t systemAbilityId, cons
 
 sptr<IRemoteObject> SystemAbilityManagerHost::FindOrStart(int32_t systemAbilityId)
 {
+    std::lock_guard<std::mutex> startLock(startMutex_);
     SamgrHostControl::Loader loader;
     {
         std::lock_guard<std::mutex> lock(mutex_);

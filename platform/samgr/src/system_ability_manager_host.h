@@ -55,6 +55,8 @@ private:
                      const LoadScript& script);
 
     std::mutex mutex_;
+    // Serialises starts, so concurrent loads of an ability that is not running start one process, not two.
+    std::mutex startMutex_;
     std::map<int32_t, sptr<IRemoteObject>> abilities_;
     std::map<int32_t, SamgrHostControl::Loader> loaders_;
     std::deque<LoadScript> scripts_;
