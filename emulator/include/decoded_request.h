@@ -1,0 +1,37 @@
+/*
+ * One request as an emulated service saw it: what it decoded field by field, what it answered, and the bytes of
+ * both parcels, for traces and tests.
+ */
+#ifndef DECODED_REQUEST_H
+#define DECODED_REQUEST_H
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace OHOS {
+namespace Zelkon {
+
+struct DecodedRequest {
+    using Fields = std::vector<std::pair<std::string, std::string>>;
+
+    std::string service;
+    uint32_t code = 0;
+    // Empty for a code that the service does not know.
+    std::string operation;
+    Fields fields;
+    Fields replyFields;
+    // What the caller's SendRequest returns: 0, or the error that refused the request.
+    int result = 0;
+    std::vector<uint8_t> requestBytes;
+    std::vector<uint8_t> replyBytes;
+};
+
+using TraceSink = std::function<void(const DecodedRequest&)>;
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // DECODED_REQUEST_H

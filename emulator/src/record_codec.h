@@ -1,0 +1,33 @@
+/*
+ * Reads and writes the records of both services field by field, in the wire order that the services define.
+ * Payload records (send, data, bytes and share objects, found devices) use the layouts of the host build.
+ */
+#ifndef RECORD_CODEC_H
+#define RECORD_CODEC_H
+
+#include "emulated_records.h"
+#include "reply_writer.h"
+#include "request_reader.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+inline constexpr uint32_t MAX_PAYLOAD_ITEMS = 1000;
+inline constexpr uint32_t MAX_BIG_STRING_SIZE = 5 * 1024 * 1024;
+
+bool ReadUserEntry(RequestReader& reader, UserEntry& user);
+bool WriteUserEntry(ReplyWriter& writer, const UserEntry& user);
+bool WritePermanentEntry(ReplyWriter& writer, const PermanentEntry& entry);
+bool WriteAccountEntry(ReplyWriter& writer, const AccountEntry& account);
+// A presence word, then the device; an absent device is malformed.
+bool ReadFoundDevice(RequestReader& reader, FoundDevice& device);
+bool ReadSendBean(RequestReader& reader, TransferPayload& payload);
+// The descriptor is read to its end, so the payload holds the file's real size.
+bool ReadDataBean(RequestReader& reader, TransferPayload& payload);
+bool ReadBytesInfo(RequestReader& reader, TransferPayload& payload);
+bool ReadCommonShareObject(RequestReader& reader, std::string& networkId, TransferPayload& payload);
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // RECORD_CODEC_H

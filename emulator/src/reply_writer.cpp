@@ -1,0 +1,68 @@
+#include "reply_writer.h"
+
+#include "emulator_log.h"
+#include "field_text.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+bool ReplyWriter::Check(const char* field, bool written, const std::string& value)
+{
+    if (!written) {
+        EMULATOR_LOGE("reply write of %{public}s failed", field);
+        failed_ = true;
+        return false;
+    }
+    fields_.emplace_back(field, value);
+    return true;
+}
+
+bool ReplyWriter::Int32(const char* field, int32_t value)
+{
+    return !failed_ && Check(field, reply_.WriteInt32(value), std::to_string(value));
+}
+
+bool ReplyWriter::Uint32(const char* field, uint32_t value)
+{
+    return !failed_ && Check(field, reply_.WriteUint32(value), std::to_string(value));
+}
+
+bool ReplyWriter::Int64(const char* field, int64_t value)
+{
+    return !failed_ && Check(field, reply_.WriteInt64(value), std::to_string(value));
+}
+
+bool ReplyWriter::Bool(const char* field, bool value)
+{
+    return !failed_ && Check(field, reply_.WriteBool(value), value ? "true" : "false");
+}
+
+bool ReplyWriter::String(const char* field, const std::string& value)
+{
+    return !failed_ && Check(field, reply_.WriteString(value), QuotedText(value));
+}
+
+bool ReplyWriter::RemoteObject(const char* field, const sptr<IRemoteObject>& object)
+{
+    return !failed_ && Check(field, reply_.WriteRemoteObject(object), ObjectText(object));
+}
+
+bool ReplyWriter::BigString(const char* field, const std::string& value)
+{
+    const auto size = static_cast<uint32_t>(value.size() + 1);
+    if (failed_ || !Check("size", reply_.WriteUint32(size), std::to_string(size))) {
+        return false;
+    }
+    if (value.empty()) {
+        return true;
+    }
+    return Check(field, reply_.WriteRawData(value.c_str(), size), QuotedText(value));
+}
+
+void ReplyWriter::MakeRoom(size_t bytes)
+{
+    reply_.SetMaxCapacity(reply_.GetMaxCapacity() + bytes);
+}
+
+} // namespace Zelkon
+} // namespace OHOS

@@ -1,0 +1,45 @@
+/*
+ * Writes one reply's fields with the parcel's own primitives and notes each one, by name, for the trace. A write
+ * that fails marks the reply as broken; later writes then fail at once.
+ */
+#ifndef REPLY_WRITER_H
+#define REPLY_WRITER_H
+
+#include <cstdint>
+#include <string>
+
+#include "decoded_request.h"
+#include "message_parcel.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+class ReplyWriter {
+public:
+    ReplyWriter(MessageParcel& reply, DecodedRequest::Fields& fields) : reply_(reply), fields_(fields) {}
+
+    bool Int32(const char* field, int32_t value);
+    bool Uint32(const char* field, uint32_t value);
+    bool Int64(const char* field, int64_t value);
+    bool Bool(const char* field, bool value);
+    bool String(const char* field, const std::string& value);
+    bool RemoteObject(const char* field, const sptr<IRemoteObject>& object);
+    // A uint32 size word (length plus one), then the text and its zero byte as one raw block.
+    bool BigString(const char* field, const std::string& value);
+    // Lets a record as large as its texts fit: the parcel's limit only ever rises.
+    void MakeRoom(size_t bytes);
+
+    bool Failed() const { return failed_; }
+
+private:
+    bool Check(const char* field, bool written, const std::string& value);
+
+    MessageParcel& reply_;
+    DecodedRequest::Fields& fields_;
+    bool failed_ = false;
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // REPLY_WRITER_H

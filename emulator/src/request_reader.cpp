@@ -1,0 +1,144 @@
+#include "request_reader.h"
+
+#include <cstring>
+
+#include "emulator_log.h"
+#include "field_text.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+bool RequestReader::Fail(const char* field, const char* what)
+{
+    if (!failed_) {
+        EMULATOR_LOGE("malformed request: %{public}s %{public}s", field, what);
+        fields_.emplace_back(field, std::string("<") + what + ">");
+    }
+    failed_ = true;
+    return false;
+}
+
+void RequestReader::Note(const std::string& field, const std::string& value)
+{
+    fields_.emplace_back(field, value);
+}
+
+bool RequestReader::Int32(const char* field, int32_t& value)
+{
+    if (failed_ || !data_.ReadInt32(value)) {
+        return Fail(field, "truncated");
+    }
+    Note(field, std::to_string(value));
+    return true;
+}
+
+bool RequestReader::Uint32(const char* field, uint32_t& value)
+{
+    if (failed_ || !data_.ReadUint32(value)) {
+        return Fail(field, "truncated");
+    }
+    Note(field, std::to_string(value));
+    return true;
+}
+
+bool RequestReader::Int64(const char* field, int64_t& value)
+{
+    if (failed_ || !data_.ReadInt64(value)) {
+        return Fail(field, "truncated");
+    }
+    Note(field, std::to_string(value));
+    return true;
+}
+
+bool RequestReader::Int8(const char* field, int8_t& value)
+{
+    if (failed_ || !data_.ReadInt8(value)) {
+        return Fail(field, "truncated");
+    }
+    Note(field, std::to_string(value));
+    return true;
+}
+
+bool RequestReader::Bool(const char* field, bool& value)
+{
+    if (failed_ || !data_.ReadBool(value)) {
+        return Fail(field, "truncated");
+    }
+    Note(field, value ? "true" : "false");
+    return true;
+}
+
+bool RequestReader::String(const char* field, std::string& value)
+{
+    if (failed_ || !data_.ReadString(value)) {
+        return Fail(field, "truncated");
+    }
+    Note(field, QuotedText(value));
+    return true;
+}
+
+bool RequestReader::RemoteObject(const char* field, sptr<IRemoteObject>& object)
+{
+    if (failed_) {
+        return false;
+    }
+    object = data_.ReadRemoteObject();
+    if (object == nullptr) {
+        return Fail(field, "no remote object");
+    }
+    Note(field, ObjectText(object));
+    return true;
+}
+
+bool RequestReader::FileDescriptor(const char* field, UniqueFd& fd)
+{
+    if (failed_) {
+        return false;
+    }
+    fd.Reset(data_.ReadFileDescriptor());
+    if (fd.Get() < 0) {
+        return Fail(field, "no file descriptor");
+    }
+    Note(field, "fd " + std::to_string(fd.Get()));
+    return true;
+}
+
+bool RequestReader::BigString(const char* field, std::string& value, uint32_t maxSize)
+{
+    uint32_t size = 0;
+    if (failed_ || !data_.ReadUint32(size)) {
+        return Fail(field, "truncated");
+    }
+    if (size > maxSize) {
+        return Fail(field, "size too large");
+    }
+    value.clear();
+    if (size > 1) {
+        const auto* block = static_cast<const char*>(data_.ReadRawData(size));
+        if (block == nullptr) {
+            return Fail(field, "raw data missing");
+        }
+        if (block[size - 1] != '\0') {
+            return Fail(field, "raw data not terminated");
+        }
+        value.assign(block, strnlen(block, size));
+    }
+    Note(field, QuotedText(value));
+    return true;
+}
+
+bool RequestReader::Count(const char* field, uint32_t& count, size_t minRecordBytes, uint32_t maxCount)
+{
+    if (failed_ || !data_.ReadUint32(count)) {
+        return Fail(field, "truncated");
+    }
+    if (count > maxCount || static_cast<size_t>(count) * minRecordBytes > data_.GetReadableBytes()) {
+        EMULATOR_LOGE("hostile count %{public}u of %{public}s", count, field);
+        return Fail(field, "hostile count");
+    }
+    Note(field, std::to_string(count));
+    return true;
+}
+
+} // namespace Zelkon
+} // namespace OHOS

@@ -1,0 +1,51 @@
+/*
+ * Reads one request's fields with the parcel's own primitives and notes each one, by name, for the trace. The
+ * first read that runs out of data marks the request as malformed; later reads then fail at once.
+ */
+#ifndef REQUEST_READER_H
+#define REQUEST_READER_H
+
+#include <cstdint>
+#include <string>
+
+#include "decoded_request.h"
+#include "message_parcel.h"
+#include "unique_fd.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+class RequestReader {
+public:
+    RequestReader(MessageParcel& data, DecodedRequest::Fields& fields) : data_(data), fields_(fields) {}
+
+    bool Int32(const char* field, int32_t& value);
+    bool Uint32(const char* field, uint32_t& value);
+    bool Int64(const char* field, int64_t& value);
+    bool Int8(const char* field, int8_t& value);
+    bool Bool(const char* field, bool& value);
+    bool String(const char* field, std::string& value);
+    bool RemoteObject(const char* field, sptr<IRemoteObject>& object);
+    bool FileDescriptor(const char* field, UniqueFd& fd);
+    // A uint32 size word (length plus one) and a raw block ending in a zero byte; a size above maxSize is hostile.
+    bool BigString(const char* field, std::string& value, uint32_t maxSize);
+    // A uint32 count of records that each take at least minRecordBytes: a count that the remaining data cannot
+    // hold, or above maxCount, is hostile.
+    bool Count(const char* field, uint32_t& count, size_t minRecordBytes, uint32_t maxCount);
+    // Notes a value that the caller decoded itself.
+    void Note(const std::string& field, const std::string& value);
+
+    bool Failed() const { return failed_; }
+
+private:
+    bool Fail(const char* field, const char* what);
+
+    MessageParcel& data_;
+    DecodedRequest::Fields& fields_;
+    bool failed_ = false;
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // REQUEST_READER_H

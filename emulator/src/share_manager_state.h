@@ -1,0 +1,80 @@
+/*
+ * What the emulated share manager service knows: the sharing switch, the users nearby and those being sent to,
+ * registered callbacks and subscriptions, the preview data and the account. Every operation is atomic under one
+ * lock.
+ */
+#ifndef SHARE_MANAGER_STATE_H
+#define SHARE_MANAGER_STATE_H
+
+#include <cstdint>
+#include <map>
+#include <mutex>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "emulated_records.h"
+#include "iremote_object.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+class ShareManagerState {
+public:
+    enum class CallbackKind { WIDGET, VX_WIDGET, SENDER_ACTION, SHARE_API };
+
+    ShareManagerState();
+
+    void SetEnable(int32_t state, bool enable);
+    bool IsEnabled();
+    int32_t EnableState();
+
+    // False when the callback was already there (add) or was not there (remove).
+    bool AddCallback(CallbackKind kind, const sptr<IRemoteObject>& callback);
+    bool RemoveCallback(CallbackKind kind, const sptr<IRemoteObject>& callback);
+    bool HasCallbacks(CallbackKind kind);
+
+    // False when the flag already had that value.
+    bool SetDiscovering(bool discovering);
+    bool SetConnected(bool connected);
+
+    std::vector<UserEntry> AllUsers();
+    std::vector<UserEntry> SendingUsers();
+    bool IsKnownUser(const std::string& deviceId);
+    // Sending needs a prepared device; a transfer puts the device on the sending list, a cancel takes it off.
+    bool Prepare(const std::string& deviceId);
+    bool StartSending(const std::string& deviceId, const TransferPayload& payload);
+    bool CancelSending(const std::string& deviceId);
+
+    bool AddEvent(const std::string& event);
+    bool RemoveEvent(const std::string& event);
+    bool AddShareEvent(int32_t eventType, int32_t eventId);
+    bool RemoveShareEvent(int32_t eventType, int32_t eventId);
+
+    std::string PreviewData();
+    AccountEntry Account();
+    void SetAccountPermission(int32_t permission);
+
+private:
+    const UserEntry* FindUser(const std::string& deviceId) const;
+
+    std::mutex mutex_;
+    bool enabled_ = true;
+    int32_t enableState_ = 1;
+    std::map<CallbackKind, std::map<IRemoteObject*, sptr<IRemoteObject>>> callbacks_;
+    bool discovering_ = false;
+    bool connected_ = false;
+    std::vector<UserEntry> users_;
+    std::set<std::string> prepared_;
+    std::map<std::string, TransferPayload> sending_;
+    std::set<std::string> events_;
+    std::set<std::pair<int32_t, int32_t>> shareEvents_;
+    const std::string previewData_;
+    AccountEntry account_;
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // SHARE_MANAGER_STATE_H

@@ -1,0 +1,156 @@
+#include "share_service_state.h"
+
+#include <algorithm>
+
+namespace OHOS {
+namespace Zelkon {
+namespace {
+constexpr int32_t PHONE_TYPE = 14;
+constexpr int32_t TABLET_TYPE = 17;
+constexpr int32_t PC_TYPE = 12;
+} // namespace
+
+ShareServiceState::ShareServiceState() :
+    permanentDevices_{
+        {1, "Kitchen tablet", TABLET_TYPE, "perm-0001-tablet", 1700000000000},
+        {2, "Office laptop", PC_TYPE, "perm-0002-laptop", 1700000500000},
+        {3, "Alex's phone", PHONE_TYPE, "perm-0003-phone", 1700001000000},
+    }
+{
+}
+
+bool ShareServiceState::AddListener(ListenerKind kind, const sptr<IRemoteObject>& listener)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return listeners_[kind].emplace(listener.GetRefPtr(), listener).second;
+}
+
+bool ShareServiceState::RemoveListener(ListenerKind kind, const sptr<IRemoteObject>& listener)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return listeners_[kind].erase(listener.GetRefPtr()) > 0;
+}
+
+bool ShareServiceState::ClearListeners(ListenerKind kind)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    auto& registered = listeners_[kind];
+    const bool hadAny = !registered.empty();
+    registered.clear();
+    return hadAny;
+}
+
+size_t ShareServiceState::ListenerCount(ListenerKind kind)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return listeners_[kind].size();
+}
+
+bool ShareServiceState::AddFoundDevice(const FoundDevice& device, const sptr<IRemoteObject>& listener)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    if (listeners_[ListenerKind::SUBSCRIBE].count(listener.GetRefPtr()) == 0) {
+        return false;
+    }
+    auto known = std::find_if(foundDevices_.begin(), foundDevices_.end(),
+                              [&](const FoundDevice& found) { return found.deviceId == device.deviceId; });
+    if (known != foundDevices_.end()) {
+        *known = device;
+    } else {
+        foundDevices_.push_back(device);
+    }
+    return true;
+}
+
+bool ShareServiceState::ClearDiscovererFlag(const std::string& deviceId)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return std::any_of(foundDevices_.begin(), foundDevices_.end(),
+                       [&](const FoundDevice& found) { return found.deviceId == deviceId; });
+}
+
+std::vector<FoundDevice> ShareServiceState::FoundDevices()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return foundDevices_;
+}
+
+int32_t ShareServiceState::StartTransfer(const std::string& deviceId, const TransferPayload& payload)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    const int32_t id = nextTransferId_++;
+    transfers_[id] = {deviceId, payload};
+    return id;
+}
+
+size_t ShareServiceState::CancelTransfers(const std::string& deviceId)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    size_t cancelled = 0;
+    for (auto it = transfers_.begin(); it != transfers_.end();) {
+        if (it->second.deviceId == deviceId) {
+            it = transfers_.erase(it);
+            ++cancelled;
+        } else {
+            ++it;
+        }
+    }
+    return cancelled;
+}
+
+size_t ShareServiceState::TransferCount()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return transfers_.size();
+}
+
+bool ShareServiceState::SetWifiScanning(const std::string& ifName, bool suspended)
+{
+    if (ifName.empty()) {
+        return false;
+    }
+    std::lock_guard<std::mutex> lock(mutex_);
+    return suspended ? suspendedScans_.insert(ifName).second : suspendedScans_.erase(ifName) > 0;
+}
+
+void ShareServiceState::SetDiscoveryPolicy(int32_t policy)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    discoveryPolicy_ = policy;
+}
+
+void ShareServiceState::SetAccountPermission(int32_t permission)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    accountPermission_ = permission;
+}
+
+std::string ShareServiceState::PublishInfo()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return "{\"deviceName\":\"Emulated host\",\"publishers\":" +
+           std::to_string(listeners_[ListenerKind::PUBLISH].size()) +
+           ",\"discoveryPolicy\":" + std::to_string(discoveryPolicy_) +
+           ",\"accountPermission\":" + std::to_string(accountPermission_) + "}";
+}
+
+std::vector<PermanentEntry> ShareServiceState::PermanentDevices()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return permanentDevices_;
+}
+
+bool ShareServiceState::RemovePermanentDevice(int32_t id)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    auto it = std::find_if(permanentDevices_.begin(), permanentDevices_.end(),
+                           [id](const PermanentEntry& entry) { return entry.id == id; });
+    if (it == permanentDevices_.end()) {
+        return false;
+    }
+    permanentDevices_.erase(it);
+    return true;
+}
+
+} // namespace Zelkon
+} // namespace OHOS

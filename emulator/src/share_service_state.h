@@ -1,0 +1,74 @@
+/*
+ * What one process of the emulated share service knows: its listeners, the devices discovery reported, its
+ * transfers and the permanent devices. Every operation is atomic under one lock.
+ */
+#ifndef SHARE_SERVICE_STATE_H
+#define SHARE_SERVICE_STATE_H
+
+#include <cstdint>
+#include <map>
+#include <mutex>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "emulated_records.h"
+#include "iremote_object.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+class ShareServiceState {
+public:
+    enum class ListenerKind { PUBLISH, SUBSCRIBE, RECEIVE, COMMON_RECEIVE, SWING };
+
+    ShareServiceState();
+
+    // False when the listener was already there (add) or was not there (remove).
+    bool AddListener(ListenerKind kind, const sptr<IRemoteObject>& listener);
+    bool RemoveListener(ListenerKind kind, const sptr<IRemoteObject>& listener);
+    // The common receive listener is one slot; unregistering empties it.
+    bool ClearListeners(ListenerKind kind);
+    size_t ListenerCount(ListenerKind kind);
+
+    // Refused from a caller that has not subscribed.
+    bool AddFoundDevice(const FoundDevice& device, const sptr<IRemoteObject>& listener);
+    bool ClearDiscovererFlag(const std::string& deviceId);
+    std::vector<FoundDevice> FoundDevices();
+
+    // The new transfer's id; it runs until cancelled.
+    int32_t StartTransfer(const std::string& deviceId, const TransferPayload& payload);
+    // The number of transfers with the device that were stopped.
+    size_t CancelTransfers(const std::string& deviceId);
+    size_t TransferCount();
+
+    bool SetWifiScanning(const std::string& ifName, bool suspended);
+    void SetDiscoveryPolicy(int32_t policy);
+    void SetAccountPermission(int32_t permission);
+    std::string PublishInfo();
+
+    std::vector<PermanentEntry> PermanentDevices();
+    bool RemovePermanentDevice(int32_t id);
+
+private:
+    struct Transfer {
+        std::string deviceId;
+        TransferPayload payload;
+    };
+
+    std::mutex mutex_;
+    // Keyed by the object, which stays the same while the caller's listener lives.
+    std::map<ListenerKind, std::map<IRemoteObject*, sptr<IRemoteObject>>> listeners_;
+    std::vector<FoundDevice> foundDevices_;
+    std::map<int32_t, Transfer> transfers_;
+    int32_t nextTransferId_ = 1;
+    std::set<std::string> suspendedScans_;
+    int32_t discoveryPolicy_ = 0;
+    int32_t accountPermission_ = 0;
+    std::vector<PermanentEntry> permanentDevices_;
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // SHARE_SERVICE_STATE_H
