@@ -1,17 +1,37 @@
 #include "field_text.h"
 
+#include <cstdio>
+
 namespace OHOS {
 namespace Zelkon {
 namespace {
 constexpr size_t SHOWN_TEXT_LENGTH = 40;
+
+// Control characters would break the one-line form of a traced field.
+std::string Printable(const std::string& text)
+{
+    std::string shown;
+    for (unsigned char c : text) {
+        if (c == '\n') {
+            shown += "\\n";
+        } else if (c < 0x20 || c == 0x7f) {
+            char escaped[8];
+            std::snprintf(escaped, sizeof(escaped), "\\x%02x", c);
+            shown += escaped;
+        } else {
+            shown.push_back(static_cast<char>(c));
+        }
+    }
+    return shown;
+}
 } // namespace
 
 std::string QuotedText(const std::string& text)
 {
     if (text.size() <= SHOWN_TEXT_LENGTH) {
-        return "\"" + text + "\"";
+        return "\"" + Printable(text) + "\"";
     }
-    return "\"" + text.substr(0, SHOWN_TEXT_LENGTH) + "...\" (" + std::to_string(text.size()) + " bytes)";
+    return "\"" + Printable(text.substr(0, SHOWN_TEXT_LENGTH)) + "...\" (" + std::to_string(text.size()) + " bytes)";
 }
 
 std::string ObjectText(const sptr<IRemoteObject>& object)

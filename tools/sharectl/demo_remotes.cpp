@@ -1,0 +1,50 @@
+#include "demo_remotes.h"
+
+#include "message_option.h"
+#include "message_parcel.h"
+
+namespace OHOS {
+namespace Zelkon {
+namespace {
+// The typed proxies exist once per process, as an application that uses these objects would register them.
+const BrokerDelegator<DemoSenderProxy> SENDER_DELEGATOR;
+const BrokerDelegator<DemoReceiverProxy> RECEIVER_DELEGATOR;
+constexpr uint32_t QUERY_HANDLE_CODE = 1;
+} // namespace
+
+int32_t QueryHandle(const sptr<IRemoteObject>& object, const std::u16string& token)
+{
+    if (object == nullptr) {
+        return -1;
+    }
+    MessageParcel data;
+    MessageParcel reply;
+    MessageOption option;
+    if (!data.WriteInterfaceToken(token) || object->SendRequest(QUERY_HANDLE_CODE, data, reply, option) != 0) {
+        return -1;
+    }
+    int32_t handle = -1;
+    return reply.ReadInt32(handle) ? handle : -1;
+}
+
+void DiedWaiter::OnShareSaDied()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    ++deaths_;
+    died_.notify_all();
+}
+
+bool DiedWaiter::WaitForDeaths(int count, std::chrono::milliseconds timeout)
+{
+    std::unique_lock<std::mutex> lock(mutex_);
+    return died_.wait_for(lock, timeout, [this, count] { return deaths_ >= count; });
+}
+
+int DiedWaiter::Deaths()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return deaths_;
+}
+
+} // namespace Zelkon
+} // namespace OHOS

@@ -1,0 +1,56 @@
+#include "request_log.h"
+
+#include <iostream>
+
+#include "trace_printer.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+void RequestLog::Record(const DecodedRequest& request)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    if (print_) {
+        PrintTrace(std::cout, request);
+    }
+    requests_.push_back(request);
+}
+
+size_t RequestLog::Mark()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return requests_.size();
+}
+
+std::vector<DecodedRequest> RequestLog::Since(size_t mark)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return mark >= requests_.size() ? std::vector<DecodedRequest>()
+                                    : std::vector<DecodedRequest>(requests_.begin() + mark, requests_.end());
+}
+
+std::optional<DecodedRequest> RequestLog::LastOf(size_t mark, const std::string& operation)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    for (size_t i = requests_.size(); i > mark; --i) {
+        if (requests_[i - 1].operation == operation) {
+            return requests_[i - 1];
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> RequestLog::Field(const DecodedRequest& request, const std::string& name)
+{
+    for (const auto* fields : {&request.fields, &request.replyFields}) {
+        for (const auto& [field, value] : *fields) {
+            if (field == name) {
+                return value;
+            }
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace Zelkon
+} // namespace OHOS

@@ -1,0 +1,64 @@
+/*
+ * The state that the steps of one sharectl run share, and the steps themselves. A step drives the library, checks
+ * the result against what the emulated service should have done, and says what happened in one line.
+ */
+#ifndef SESSION_H
+#define SESSION_H
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "demo_remotes.h"
+#include "request_log.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+struct Session {
+    explicit Session(bool trace) : requests(trace) {}
+
+    RequestLog requests;
+    std::vector<std::string> arguments;
+    sptr<DemoRemote<IPublishListener>> publishListener = new DemoRemote<IPublishListener>();
+    sptr<DemoRemote<ISubscribeListener>> subscribeListener = new DemoRemote<ISubscribeListener>();
+    sptr<DemoRemote<ITransmitCallback>> transmitCallback = new DemoRemote<ITransmitCallback>();
+    std::shared_ptr<DiedWaiter> diedWaiter = std::make_shared<DiedWaiter>();
+};
+
+struct StepResult {
+    bool ok;
+    std::string detail;
+};
+
+struct Step {
+    const char* name;
+    StepResult (*run)(Session& session);
+};
+
+// The share service.
+StepResult LoadShareService(Session& session);
+StepResult PublishDevice(Session& session);
+StepResult SubscribeDevice(Session& session);
+StepResult SkipLegacyDevice(Session& session);
+StepResult ForwardFoundDevice(Session& session);
+StepResult SendRealFile(Session& session);
+StepResult SendBytes(Session& session);
+StepResult SendCommonShare(Session& session);
+StepResult CancelTransfers(Session& session);
+StepResult ListPermanentDevices(Session& session);
+StepResult RemovePermanentDevice(Session& session);
+// The share manager service.
+StepResult SwitchSharing(Session& session);
+StepResult ListUsers(Session& session);
+StepResult PrepareAndSend(Session& session);
+StepResult ReadPreviewData(Session& session);
+StepResult ReadAccount(Session& session);
+// Death and reload of the share service.
+StepResult KillShareService(Session& session);
+StepResult ReloadOnNextCall(Session& session);
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // SESSION_H

@@ -1,0 +1,203 @@
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "samgr_host_control.h"
+#include "session.h"
+#include "share_client.h"
+#include "share_emulator.h"
+#include "temp_file.h"
+
+namespace OHOS {
+namespace Zelkon {
+namespace {
+constexpr const char* PACKAGE_NAME = "com.example.sharectl";
+constexpr const char* PHONE_ID = "dev-1001-phone";
+constexpr const char* TABLET_ID = "dev-1002-tablet";
+constexpr int32_t TRANSFER_TIMEOUT = 30;
+constexpr size_t DEMO_FILE_SIZE = 100000;
+constexpr size_t COMMON_SHARE_SIZE = 3 * 1024 * 1024;
+constexpr int32_t REMOVED_DEVICE_ID = 2;
+
+ShareClient& Client()
+{
+    return ShareClient::GetInstance();
+}
+
+TransmitParam ParamFor(Session& session, const std::string& deviceId)
+{
+    TransmitParam param;
+    param.deviceId = deviceId;
+    param.timeout = TRANSFER_TIMEOUT;
+    param.transCallback = session.transmitCallback;
+    return param;
+}
+
+int32_t TransferId(const sptr<ZelkonSender>& sender)
+{
+    auto* typed = static_cast<DemoSenderProxy*>(sender.GetRefPtr());
+    return typed == nullptr ? -1 : typed->TransferId();
+}
+
+StepResult SenderResult(const sptr<ZelkonSender>& sender, const std::string& what)
+{
+    if (sender == nullptr) {
+        return {false, what + ": no sender"};
+    }
+    const int32_t id = TransferId(sender);
+    return {id > 0, what + ", sender of transfer " + std::to_string(id)};
+}
+
+sptr<ShareDevice> MakeDevice(const std::string& id, const std::string& name, int32_t nearbyVersion)
+{
+    sptr<ShareDevice> device = new ShareDevice();
+    device->deviceId = id;
+    device->deviceName = name;
+    device->nbVersion_ = nearbyVersion;
+    device->ohFlag_ = 0;
+    return device;
+}
+
+std::string DeviceNames(const std::vector<PermanentDeviceInfo>& devices)
+{
+    std::string names;
+    for (const PermanentDeviceInfo& device : devices) {
+        names += (names.empty() ? "" : ", ") + std::to_string(device.id) + " " + device.deviceName;
+    }
+    return names;
+}
+} // namespace
+
+StepResult LoadShareService(Session& session)
+{
+    Client().RegisterDiedCallback(session.diedWaiter);
+    const int32_t connected = Client().Connect();
+    const int loads = SamgrHostControl::LoadCount(EMULATED_SHARE_SERVICE_ID);
+    return {connected == 0 && loads >= 1,
+            "Connect -> " + std::to_string(connected) + " after " + std::to_string(loads) + " load request(s)"};
+}
+
+StepResult PublishDevice(Session& session)
+{
+    const int32_t result = Client().Publish(session.publishListener);
+    std::string publishInfo;
+    const int32_t infoResult = Client().GetPontalPublishInfo(publishInfo);
+    return {result == 1 && infoResult == 1 && publishInfo.find("\"publishers\":1") != std::string::npos,
+            "Publish -> " + std::to_string(result) + ", publish info " + publishInfo};
+}
+
+StepResult SubscribeDevice(Session& session)
+{
+    const int32_t result = Client().Subscribe(session.subscribeListener);
+    return {result == 1, "Subscribe -> " + std::to_string(result)};
+}
+
+StepResult SkipLegacyDevice(Session& session)
+{
+    const size_t mark = session.requests.Mark();
+    const int32_t result =
+        Client().OnCollabDeviceFound(MakeDevice("dev-0008-watch", "Old watch", 8), session.subscribeListener, 0);
+    const bool sent = session.requests.LastOf(mark, "OnCollabDeviceFound").has_value();
+    return {result == 0 && !sent, "Old watch (nearby version 8) -> " + std::to_string(result) +
+                                      (sent ? ", but the service was asked" : ", skipped before the service")};
+}
+
+StepResult ForwardFoundDevice(Session& session)
+{
+    const size_t mark = session.requests.Mark();
+    const int32_t result =
+        Client().OnCollabDeviceFound(MakeDevice(TABLET_ID, "Sam's tablet", 9), session.subscribeListener, 1);
+    auto request = session.requests.LastOf(mark, "OnCollabDeviceFound");
+    const std::string name = request ? RequestLog::Field(*request, "device.deviceName").value_or("?") : "nothing";
+    return {result == 1 && name == "\"Sam's tablet\"",
+            "Sam's tablet (nearby version 9) -> " + std::to_string(result) + ", the service found " + name};
+}
+
+StepResult SendRealFile(Session& session)
+{
+    const TempFile temp("sharectl-file", DEMO_FILE_SIZE);
+    const std::string path = session.arguments.empty() ? temp.Path() : session.arguments[0];
+    const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    struct stat status {};
+    if (fd < 0 || fstat(fd, &status) != 0) {
+        if (fd >= 0) {
+            close(fd);
+        }
+        return {false, "cannot open " + path};
+    }
+    DataBean dataBean;
+    dataBean.fileName = path.substr(path.find_last_of('/') + 1);
+    dataBean.fileSize = status.st_size;
+    dataBean.fd = fd;
+    const size_t mark = session.requests.Mark();
+    sptr<ZelkonSender> sender = Client().SendFile(ParamFor(session, PHONE_ID), dataBean, PACKAGE_NAME);
+    close(fd);
+    auto request = session.requests.LastOf(mark, "SendFile(DataBean)");
+    const std::string readable = request ? RequestLog::Field(*request, "dataBean.fd.readable").value_or("?") : "?";
+    StepResult result = SenderResult(sender, dataBean.fileName + " (" + std::to_string(status.st_size) +
+                                                 " bytes), the service read " + readable + " from the descriptor");
+    result.ok = result.ok && readable == std::to_string(status.st_size) + " bytes";
+    return result;
+}
+
+StepResult SendBytes(Session& session)
+{
+    BytesInfo bytes;
+    bytes.mimeType = "text/plain";
+    bytes.bytes = "hello from sharectl";
+    return SenderResult(Client().SendBytes(ParamFor(session, PHONE_ID), bytes),
+                        std::to_string(bytes.bytes.size()) + " bytes of " + bytes.mimeType);
+}
+
+StepResult SendCommonShare(Session& session)
+{
+    CommonShareObject share;
+    share.type = 1;
+    share.timeout = TRANSFER_TIMEOUT;
+    share.content.assign(COMMON_SHARE_SIZE, 'z');
+    share.networkId = TABLET_ID;
+    share.resumable = true;
+    const size_t mark = session.requests.Mark();
+    sptr<ZelkonSender> sender = Client().CommonShareSend(share, session.transmitCallback);
+    auto request = session.requests.LastOf(mark, "CommonShareSend");
+    const std::string content = request ? RequestLog::Field(*request, "share.content").value_or("?") : "?";
+    const std::string expected = "(" + std::to_string(COMMON_SHARE_SIZE) + " bytes)";
+    StepResult result = SenderResult(sender, std::to_string(COMMON_SHARE_SIZE >> 20) + " MiB of content");
+    result.ok = result.ok && content.size() >= expected.size() &&
+                content.compare(content.size() - expected.size(), expected.size(), expected) == 0;
+    return result;
+}
+
+StepResult CancelTransfers(Session& session)
+{
+    const size_t mark = session.requests.Mark();
+    Client().Cancel(PHONE_ID);
+    auto request = session.requests.LastOf(mark, "Cancel");
+    const std::string cancelled = request ? RequestLog::Field(*request, "cancelled").value_or("0") : "0";
+    return {cancelled != "0",
+            "Cancel " + std::string(PHONE_ID) + ": the service stopped " + cancelled + " transfer(s)"};
+}
+
+StepResult ListPermanentDevices(Session& session)
+{
+    (void)session;
+    const std::vector<PermanentDeviceInfo> devices = Client().GetPermanentDeviceList();
+    return {!devices.empty(), std::to_string(devices.size()) + " devices: " + DeviceNames(devices)};
+}
+
+StepResult RemovePermanentDevice(Session& session)
+{
+    const int32_t id = session.arguments.empty() ? REMOVED_DEVICE_ID : std::atoi(session.arguments[0].c_str());
+    const size_t before = Client().GetPermanentDeviceList().size();
+    const int32_t result = Client().RemovePermanentDeviceById(id);
+    const std::vector<PermanentDeviceInfo> after = Client().GetPermanentDeviceList();
+    bool gone = after.size() + 1 == before;
+    for (const PermanentDeviceInfo& device : after) {
+        gone = gone && device.id != id;
+    }
+    return {result == 1 && gone, "RemovePermanentDeviceById(" + std::to_string(id) + ") -> " + std::to_string(result) +
+                                     ", left " + DeviceNames(after)};
+}
+
+} // namespace Zelkon
+} // namespace OHOS

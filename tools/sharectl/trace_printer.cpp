@@ -1,0 +1,53 @@
+#include "trace_printer.h"
+
+#include <cstdio>
+#include <string>
+
+namespace OHOS {
+namespace Zelkon {
+namespace {
+constexpr size_t BYTES_PER_LINE = 16;
+// Past this, only the head of a parcel is shown: the rest is long texts whose fields are already printed.
+constexpr size_t SHOWN_BYTES = 256;
+
+void PrintFields(std::ostream& out, const DecodedRequest::Fields& fields)
+{
+    for (const auto& [field, value] : fields) {
+        out << "      " << field << " = " << value << '\n';
+    }
+}
+
+void PrintBytes(std::ostream& out, const std::vector<uint8_t>& bytes)
+{
+    const size_t shown = bytes.size() < SHOWN_BYTES ? bytes.size() : SHOWN_BYTES;
+    for (size_t line = 0; line < shown; line += BYTES_PER_LINE) {
+        char offset[32];
+        std::snprintf(offset, sizeof(offset), "      %04zx ", line);
+        out << offset;
+        for (size_t i = line; i < line + BYTES_PER_LINE && i < shown; ++i) {
+            char byte[4];
+            std::snprintf(byte, sizeof(byte), " %02x", bytes[i]);
+            out << byte;
+        }
+        out << '\n';
+    }
+    if (shown < bytes.size()) {
+        out << "      ... " << bytes.size() - shown << " more bytes\n";
+    }
+}
+} // namespace
+
+void PrintTrace(std::ostream& out, const DecodedRequest& request)
+{
+    out << "  >> " << request.service << " code " << request.code << ' '
+        << (request.operation.empty() ? "<unknown>" : request.operation) << " (" << request.requestBytes.size()
+        << " bytes)\n";
+    PrintFields(out, request.fields);
+    PrintBytes(out, request.requestBytes);
+    out << "  << result " << request.result << " (" << request.replyBytes.size() << " bytes)\n";
+    PrintFields(out, request.replyFields);
+    PrintBytes(out, request.replyBytes);
+}
+
+} // namespace Zelkon
+} // namespace OHOS
