@@ -1,0 +1,81 @@
+// Calls both clients the way an application does, with no share service present: every call must come back with
+// its neutral result, and the records must cross a parcel intact through the installed library.
+#include <cstdio>
+#include <memory>
+#include <string>
+
+#include "message_parcel.h"
+#include "share_client.h"
+#include "share_device_info.h"
+#include "share_manager_client.h"
+
+namespace {
+
+int g_failures = 0;
+
+void Expect(bool condition, const char* what)
+{
+    std::printf("%s: %s\n", condition ? "ok" : "FAILED", what);
+    if (!condition) {
+        ++g_failures;
+    }
+}
+
+class DiedCallback : public OHOS::Zelkon::ShareSaDiedCallback {
+public:
+    void OnShareSaDied() override {}
+};
+
+class ManagerDiedCallback : public OHOS::Zelkon::ShareManagerDiedCallback {
+public:
+    void OnShareManagerDied() override {}
+};
+
+void UseShareClient()
+{
+    OHOS::Zelkon::ShareClient& client = OHOS::Zelkon::ShareClient::GetInstance();
+    client.RegisterDiedCallback(std::make_shared<DiedCallback>());
+    Expect(client.Connect() == -1, "ShareClient::Connect fails without the service");
+    Expect(client.GetPermanentDeviceList().empty(), "ShareClient::GetPermanentDeviceList is empty");
+    OHOS::Zelkon::TransmitParam param;
+    OHOS::Zelkon::BytesInfo bytes;
+    Expect(client.SendBytes(param, bytes) == nullptr, "ShareClient::SendBytes gives no sender");
+    std::string publishInfo = "unchanged";
+    client.GetPontalPublishInfo(publishInfo);
+    Expect(publishInfo == "unchanged", "ShareClient::GetPontalPublishInfo leaves its output alone");
+}
+
+void UseShareManagerClient()
+{
+    OHOS::Zelkon::ShareManagerClient& client = OHOS::Zelkon::ShareManagerClient::GetInstance();
+    client.RegisterDiedCallback(std::make_shared<ManagerDiedCallback>());
+    Expect(!client.IsEnabled(), "ShareManagerClient::IsEnabled is false");
+    Expect(client.GetAllUserList().empty(), "ShareManagerClient::GetAllUserList is empty");
+    Expect(client.GetPreviewData().empty(), "ShareManagerClient::GetPreviewData is empty");
+    Expect(client.GetReceiverActionCallback() == nullptr, "ShareManagerClient::GetReceiverActionCallback is null");
+}
+
+void UseRecords()
+{
+    OHOS::Zelkon::ShareDeviceInfo written;
+    written.deviceName = "consumer";
+    written.deviceId = "device-1";
+    written.lastSharedTime = 1234567890123;
+    OHOS::MessageParcel parcel;
+    Expect(written.Marshalling(parcel), "ShareDeviceInfo::Marshalling");
+    OHOS::Zelkon::ShareDeviceInfo read;
+    Expect(read.ReadFromParcel(parcel) && read.deviceName == written.deviceName && read.deviceId == written.deviceId &&
+               read.lastSharedTime == written.lastSharedTime,
+           "ShareDeviceInfo::ReadFromParcel gives the written record back");
+}
+
+} // namespace
+
+int main()
+{
+    UseShareClient();
+    UseShareManagerClient();
+    UseRecords();
+    std::printf("%d failed\n", g_failures);
+    return g_failures == 0 ? 0 : 1;
+}
