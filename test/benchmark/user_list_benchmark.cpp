@@ -38,7 +38,7 @@ void BM_UserListRead(benchmark::State& state)
         reply.WriteBuffer(bytes.data(), bytes.size());
         state.ResumeTiming();
         std::vector<ShareDeviceInfo> devices;
-        if (!ShareManagerSrvProxy::ReadDeviceList(reply, devices) || devices.size() != RECORDS) {
+        if (!ShareManagerSrvProxy::ReadDeviceList(reply, devices, SHARE_LOG_SITE, "") || devices.size() != RECORDS) {
             state.SkipWithError("the list was not read");
             break;
         }

@@ -133,25 +133,29 @@ bool ShareManagerSrvProxy::StopConnect()
 bool ShareManagerSrvProxy::RequestDeviceList(ProxyRequest& request, uint32_t code, const char* prefix,
                                              std::vector<ShareDeviceInfo>& devices)
 {
-    if (!request.Start(Remote(), GetDescriptor()) || !request.Transact(code)) {
-        return false;
-    }
-    MessageParcel& reply = request.Reply();
+    return request.Start(Remote(), GetDescriptor()) && request.Transact(code) &&
+           ReadDeviceList(request.Reply(), devices, request.Site(), prefix);
+}
+
+bool ShareManagerSrvProxy::ReadDeviceList(MessageParcel& reply, std::vector<ShareDeviceInfo>& devices,
+                                          const LogSite& site, const char* prefix)
+{
+    // The bound is signed: a negative count reads as an empty list.
     int32_t count = 0;
     if (!reply.ReadInt32(count) || count > MAX_DEVICE_COUNT) {
-        SHARE_LOG_AT(SHARE_MANAGER_PROXY_LABEL, LOG_ERROR, request.Site(),
-                     "%{public}sRead device counter failed %{public}d .", prefix, count);
+        SHARE_LOG_AT(SHARE_MANAGER_PROXY_LABEL, LOG_ERROR, site, "%{public}sRead device counter failed %{public}d .",
+                     prefix, count);
         return false;
     }
-    // The count is bounded above, so reserving by it is safe; each record is read in place.
+    // Each record is read into a temporary and copied into the list, which grows as needed.
     std::vector<ShareDeviceInfo> read;
-    read.reserve(count > 0 ? static_cast<size_t>(count) : 0);
     for (int32_t i = 0; i < count; ++i) {
-        if (!read.emplace_back().ReadFromParcel(reply)) {
-            SHARE_LOG_AT(SHARE_MANAGER_PROXY_LABEL, LOG_ERROR, request.Site(), "%{public}sRead share device failed.",
-                         prefix);
+        ShareDeviceInfo device;
+        if (!device.ReadFromParcel(reply)) {
+            SHARE_LOG_AT(SHARE_MANAGER_PROXY_LABEL, LOG_ERROR, site, "%{public}sRead share device failed.", prefix);
             return false;
         }
+        read.push_back(device);
     }
     devices = std::move(read);
     return true;
