@@ -392,9 +392,13 @@ bool Parcel::ReadText(Str& value)
         value.clear();
         return false;
     }
-    // memcpy: a string16 body need not be aligned for its units.
-    value.resize(count);
-    std::memcpy(&value[0], body, count * sizeof(Unit));
+    if constexpr (sizeof(Unit) == 1) {
+        value.assign(reinterpret_cast<const char*>(body), count);
+    } else {
+        // memcpy: a string16 body need not be aligned for its units.
+        value.resize(count);
+        std::memcpy(&value[0], body, count * sizeof(Unit));
+    }
     readCursor_ = std::min(readCursor_ + Pad4(bytes), dataSize_);
     return true;
 }
