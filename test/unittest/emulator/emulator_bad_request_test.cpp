@@ -1,0 +1,204 @@
+/*
+ * Requests that a hostile or broken client could send: each one is refused with an error code and a log line,
+ * leaves no partial reply, and the service keeps answering afterwards.
+ */
+#include <cctype>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "emulator_test_fixture.h"
+#include "hilog/log_capture.h"
+#include "ipc_types.h"
+
+namespace OHOS {
+namespace Zelkon {
+namespace {
+
+enum class Target { SHARE_SERVICE, SHARE_MANAGER };
+
+struct BadRequest {
+    const char* name;
+    Target target;
+    uint32_t code;
+    std::function<void(MessageParcel&)> write;
+    int expected;
+};
+
+void ShareToken(MessageParcel& data)
+{
+    data.WriteInterfaceToken(SHARE_SERVICE_TOKEN);
+}
+
+void ManagerToken(MessageParcel& data)
+{
+    data.WriteInterfaceToken(SHARE_MANAGER_TOKEN);
+}
+
+// Transfer parameters of a file transfer, up to the record.
+void SendParams(MessageParcel& data)
+{
+    ShareToken(data);
+    data.WriteString("dev-1001-phone");
+    data.WriteInt32(30);
+    data.WriteRemoteObject(new TestListener());
+    data.WriteString("com.example.test");
+    data.WriteInt8(0);
+}
+
+// A common share object up to its content.
+void ShareHead(MessageParcel& data)
+{
+    ShareToken(data);
+    data.WriteString("dev-1002-tablet");
+    data.WriteInt32(30);
+    data.WriteInt32(1);
+    data.WriteBool(false);
+}
+
+const std::vector<BadRequest> BAD_REQUESTS = {
+    {"share service, token of the other service", Target::SHARE_SERVICE, 26, ManagerToken, ERR_INVALID_STATE},
+    {"share manager, token of the other service", Target::SHARE_MANAGER, 3, ShareToken, ERR_INVALID_STATE},
+    {"share service, no token at all", Target::SHARE_SERVICE, 16, [](MessageParcel&) {}, ERR_INVALID_STATE},
+    {"share manager, empty token", Target::SHARE_MANAGER, 3, [](MessageParcel& data) { data.WriteInterfaceToken(u""); },
+     ERR_INVALID_STATE},
+    {"share service, code 9 is not in use", Target::SHARE_SERVICE, 9, ShareToken, IPC_STUB_UNKNOW_TRANS_ERR},
+    {"share service, code 0", Target::SHARE_SERVICE, 0, ShareToken, IPC_STUB_UNKNOW_TRANS_ERR},
+    {"share service, code past the last", Target::SHARE_SERVICE, 28, ShareToken, IPC_STUB_UNKNOW_TRANS_ERR},
+    {"share manager, code past the last", Target::SHARE_MANAGER, 37, ManagerToken, IPC_STUB_UNKNOW_TRANS_ERR},
+    {"unpublish without its listener", Target::SHARE_SERVICE, 2,
+     [](MessageParcel& data) {
+         ShareToken(data);
+         data.WriteInt32(1);
+     },
+     ERR_INVALID_DATA},
+    {"publish with a plain word where the listener belongs", Target::SHARE_SERVICE, 1,
+     [](MessageParcel& data) {
+         ShareToken(data);
+         data.WriteInt32(1);
+     },
+     ERR_INVALID_DATA},
+    {"swing event cut before its id", Target::SHARE_SERVICE, 24,
+     [](MessageParcel& data) {
+         ShareToken(data);
+         data.WriteInt32(1);
+         data.WriteInt32(2);
+         data.WriteInt32(3);
+     },
+     ERR_INVALID_DATA},
+    {"file transfer without its record", Target::SHARE_SERVICE, 7, SendParams, ERR_INVALID_DATA},
+    {"file transfer whose descriptor is missing", Target::SHARE_SERVICE, 8,
+     [](MessageParcel& data) {
+         SendParams(data);
+         data.WriteString("photo.jpg");
+         data.WriteInt64(10);
+     },
+     ERR_INVALID_DATA},
+    {"file transfer claiming 2^32-1 files", Target::SHARE_SERVICE, 7,
+     [](MessageParcel& data) {
+         SendParams(data);
+         data.WriteString("preview");
+         data.WriteUint32(0xFFFFFFFFu);
+     },
+     ERR_INVALID_DATA},
+    {"file transfer claiming more files than its bytes hold", Target::SHARE_SERVICE, 7,
+     [](MessageParcel& data) {
+         SendParams(data);
+         data.WriteString("preview");
+         data.WriteUint32(50);
+         data.WriteString("file:///a");
+     },
+     ERR_INVALID_DATA},
+    {"common share whose content claims 2 GiB", Target::SHARE_SERVICE, 14,
+     [](MessageParcel& data) {
+         ShareHead(data);
+         data.WriteUint32(0x80000000u);
+     },
+     ERR_INVALID_DATA},
+    {"common share whose content block is missing", Target::SHARE_SERVICE, 14,
+     [](MessageParcel& data) {
+         ShareHead(data);
+         data.WriteUint32(100);
+     },
+     ERR_INVALID_DATA},
+    {"common share whose content is not terminated", Target::SHARE_SERVICE, 14,
+     [](MessageParcel& data) {
+         ShareHead(data);
+         data.WriteUint32(4);
+         data.WriteRawData("abcd", 4);
+     },
+     ERR_INVALID_DATA},
+    {"common share claiming a million items", Target::SHARE_SERVICE, 14,
+     [](MessageParcel& data) {
+         ShareHead(data);
+         data.WriteUint32(1);
+         data.WriteUint32(1000000);
+     },
+     ERR_INVALID_DATA},
+    {"switch cut before its flag", Target::SHARE_MANAGER, 1,
+     [](MessageParcel& data) {
+         ManagerToken(data);
+         data.WriteInt32(0);
+         data.WriteInt32(1);
+     },
+     ERR_INVALID_DATA},
+    {"prepare with half a device record", Target::SHARE_MANAGER, 12,
+     [](MessageParcel& data) {
+         ManagerToken(data);
+         data.WriteString("name");
+         data.WriteString("account");
+     },
+     ERR_INVALID_DATA},
+    {"send claiming 2^31 files", Target::SHARE_MANAGER, 13,
+     [](MessageParcel& data) {
+         ManagerToken(data);
+         WriteDeviceRecord(data, "dev-1001-phone");
+         data.WriteString("preview");
+         data.WriteUint32(0x80000000u);
+     },
+     ERR_INVALID_DATA},
+    {"callback registration without the callback", Target::SHARE_MANAGER, 5, ManagerToken, ERR_INVALID_DATA},
+    {"share event registration cut after one word", Target::SHARE_MANAGER, 34,
+     [](MessageParcel& data) {
+         ManagerToken(data);
+         data.WriteInt32(1);
+     },
+     ERR_INVALID_DATA},
+};
+
+class EmulatorBadRequestTest : public EmulatorTest, public testing::WithParamInterface<BadRequest> {};
+
+TEST_P(EmulatorBadRequestTest, IsRefusedWithAnErrorAndTheServiceKeepsAnswering)
+{
+    const BadRequest& bad = GetParam();
+    const sptr<IRemoteObject>& service = bad.target == Target::SHARE_SERVICE ? shareService_ : shareManager_;
+    HiviewDFX::ScopedLogCapture log;
+    MessageParcel data;
+    MessageParcel reply;
+    bad.write(data);
+
+    EXPECT_EQ(Send(service, bad.code, data, reply), bad.expected);
+    EXPECT_EQ(reply.GetDataSize(), 0u);
+    EXPECT_GT(log.Count("ShareEmulator", "", LOG_ERROR), 0u);
+
+    // Still alive and unchanged: the permanent devices and the switch are as they started.
+    MessageParcel listData;
+    MessageParcel listReply;
+    ShareToken(listData);
+    ASSERT_EQ(Send(shareService_, 26, listData, listReply), 0);
+    EXPECT_EQ(listReply.ReadInt32(), 3);
+    EXPECT_TRUE(AskBool(shareManager_, SHARE_MANAGER_TOKEN, 3));
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, EmulatorBadRequestTest, testing::ValuesIn(BAD_REQUESTS),
+                         [](const testing::TestParamInfo<BadRequest>& info) {
+                             std::string name;
+                             for (const char* c = info.param.name; *c != '\0'; ++c) {
+                                 name.push_back(std::isalnum(static_cast<unsigned char>(*c)) ? *c : '_');
+                             }
+                             return name;
+                         });
+
+} // namespace
+} // namespace Zelkon
+} // namespace OHOS

@@ -1,0 +1,160 @@
+/*
+ * The library's writers and readers against the emulator's independent decoders and encoders: a layout mistake on
+ * either side shows up as a field that differs.
+ */
+#include <algorithm>
+#include <mutex>
+#include <vector>
+
+#include "emulator_test_fixture.h"
+#include "share_manager_client.h"
+
+namespace OHOS {
+namespace Zelkon {
+namespace {
+
+using Fields = DecodedRequest::Fields;
+
+class EmulatorConformanceTest : public EmulatorTest {
+protected:
+    void SetUp() override
+    {
+        EmulatorTest::SetUp();
+        ShareEmulator::SetTraceSink([this](const DecodedRequest& request) {
+            std::lock_guard<std::mutex> lock(mutex_);
+            traced_.push_back(request);
+        });
+    }
+
+    std::vector<DecodedRequest> Traced()
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        return traced_;
+    }
+
+    static ShareManagerClient& Manager() { return ShareManagerClient::GetInstance(); }
+
+private:
+    std::mutex mutex_;
+    std::vector<DecodedRequest> traced_;
+};
+
+ShareDeviceInfo DistinctDevice()
+{
+    ShareDeviceInfo device;
+    device.deviceName = "Sam's tablet";
+    device.norvaneIdName = "sam@example.com";
+    device.avatar = "avatar-bytes";
+    device.colorId = 4;
+    device.eventCode = 5;
+    device.stateCode = 6;
+    device.percent = 7;
+    device.speed = 8;
+    device.isDisappeared = true;
+    device.deviceType = 17;
+    device.deviceId = "dev-1002-tablet";
+    device.nearbyVersion = 10;
+    device.lastSharedTime = 1234567890123;
+    device.isSameAccount = false;
+    device.contactInfo.contactKind = 3;
+    device.contactInfo.contactName = "Sam";
+    device.contactInfo.contactPhoto = "photo-of-sam";
+    device.isOHDevice = true;
+    device.deviceFounder = 0xFFFFFFF0u;
+    device.concurentId = "cc-1";
+    device.extraValue = -9;
+    return device;
+}
+
+TEST_F(EmulatorConformanceTest, DeviceRecordWrittenByTheLibraryDecodesFieldByField)
+{
+    ASSERT_TRUE(Manager().PrepareSend(DistinctDevice()));
+
+    const std::vector<DecodedRequest> traced = Traced();
+    ASSERT_EQ(traced.size(), 1u);
+    EXPECT_EQ(traced[0].operation, "PrepareSend");
+    const Fields expected = {
+        {"token", "\"ohos.Zelkon.IWidgetService\""},
+        {"deviceName", "\"Sam's tablet\""},
+        {"norvaneIdName", "\"sam@example.com\""},
+        {"avatar", "\"avatar-bytes\""},
+        {"colorId", "4"},
+        {"eventCode", "5"},
+        {"stateCode", "6"},
+        {"percent", "7"},
+        {"speed", "8"},
+        {"isDisappeared", "true"},
+        {"deviceType", "17"},
+        {"deviceId", "\"dev-1002-tablet\""},
+        {"nearbyVersion", "10"},
+        {"lastSharedTime", "1234567890123"},
+        {"isSameAccount", "false"},
+        {"contact.kind", "3"},
+        {"contact.name", "\"Sam\""},
+        {"contact.photo", "\"photo-of-sam\""},
+        {"isOHDevice", "true"},
+        {"deviceFounder", "4294967280"},
+        {"concurentId", "\"cc-1\""},
+        {"extraValue", "-9"},
+    };
+    EXPECT_EQ(traced[0].fields, expected);
+}
+
+TEST_F(EmulatorConformanceTest, UserListWrittenByTheEmulatorReadsCompletely)
+{
+    const std::vector<ShareDeviceInfo> users = Manager().GetAllUserList();
+
+    ASSERT_EQ(users.size(), 3u);
+    EXPECT_EQ(users[0].deviceName, "Alex's phone");
+    EXPECT_EQ(users[0].deviceId, "dev-1001-phone");
+    EXPECT_EQ(users[0].contactInfo.contactName, "Alex");
+    EXPECT_EQ(users[0].contactInfo.contactPhoto, "photo-of-Alex");
+    EXPECT_EQ(users[0].deviceFounder, 0x80000001u);
+    EXPECT_GT(users[0].avatar.size(), 512u);
+    EXPECT_TRUE(users[2].isSameAccount);
+    EXPECT_EQ(users[2].nearbyVersion, 12);
+}
+
+TEST_F(EmulatorConformanceTest, AccountAndPreviewReadAsTheEmulatorWroteThem)
+{
+    ASSERT_TRUE(Manager().SetShareAccountPermission(3));
+    const ShareAccountInfo account = Manager().GetAccountInfo();
+    EXPECT_EQ(account.norvaneAccountID, "acc-20001");
+    EXPECT_EQ(account.status, 3);
+    EXPECT_EQ(account.nickName, "Robin");
+    EXPECT_EQ(account.avatar, "avatar-of-robin");
+
+    const std::string preview = Manager().GetPreviewData();
+    EXPECT_GT(preview.size(), MessageParcel::MAX_INLINE_RAW_DATA_SIZE);
+    EXPECT_EQ(preview.back(), '\n');
+}
+
+TEST_F(EmulatorConformanceTest, SendFileRequestDecodesWithItsRecordsAndPackageName)
+{
+    ASSERT_TRUE(Manager().PrepareSend(DistinctDevice()));
+    SendBean sendBean;
+    sendBean.previewText = "2 photos";
+    sendBean.files = {{"file:///a.jpg", "a.jpg", 10}, {"file:///b.jpg", "b.jpg", 20}};
+    ASSERT_TRUE(Manager().Send(DistinctDevice(), sendBean, "com.example.test"));
+
+    const std::vector<DecodedRequest> traced = Traced();
+    ASSERT_EQ(traced.size(), 2u);
+    const Fields& fields = traced[1].fields;
+    const Fields tail(fields.end() - 9, fields.end());
+    const Fields expected = {
+        {"sendBean.previewText", "\"2 photos\""},
+        {"sendBean.files", "2"},
+        {"file.uri", "\"file:///a.jpg\""},
+        {"file.name", "\"a.jpg\""},
+        {"file.size", "10"},
+        {"file.uri", "\"file:///b.jpg\""},
+        {"file.name", "\"b.jpg\""},
+        {"file.size", "20"},
+        {"packageName", "\"com.example.test\""},
+    };
+    EXPECT_EQ(tail, expected);
+}
+
+} // namespace
+} // namespace Zelkon
+} // namespace OHOS

@@ -1,0 +1,98 @@
+/*
+ * Both emulated services installed in the host system ability manager, reached through their remote objects as
+ * a client process would reach them, with raw requests built field by field.
+ */
+#ifndef EMULATOR_TEST_FIXTURE_H
+#define EMULATOR_TEST_FIXTURE_H
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "ipc_object_stub.h"
+#include "iservice_registry.h"
+#include "message_option.h"
+#include "message_parcel.h"
+#include "samgr_host_control.h"
+#include "share_emulator.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+// A caller's listener: a local object whose remote object travels in requests.
+class TestListener : public IPCObjectStub {
+public:
+    TestListener() : IPCObjectStub(u"ohos.Zelkon.ISubscribeListener") {}
+};
+
+class EmulatorTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        SamgrHostControl::Reset();
+        ShareEmulator::Install();
+        sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
+        ASSERT_NE(manager, nullptr);
+        shareService_ = manager->LoadSystemAbility(EMULATED_SHARE_SERVICE_ID, LOAD_TIMEOUT_SECONDS);
+        shareManager_ = manager->CheckSystemAbility(EMULATED_SHARE_MANAGER_ID);
+        ASSERT_NE(shareService_, nullptr);
+        ASSERT_NE(shareManager_, nullptr);
+    }
+
+    void TearDown() override
+    {
+        ShareEmulator::SetTraceSink(nullptr);
+        ShareEmulator::Uninstall();
+        SamgrHostControl::Reset();
+    }
+
+    static int Send(const sptr<IRemoteObject>& service, uint32_t code, MessageParcel& data, MessageParcel& reply)
+    {
+        MessageOption option;
+        return service->SendRequest(code, data, reply, option);
+    }
+
+    // Sends a request that carries only the service's token and reads the bool reply.
+    static bool AskBool(const sptr<IRemoteObject>& service, const std::u16string& token, uint32_t code)
+    {
+        MessageParcel data;
+        MessageParcel reply;
+        data.WriteInterfaceToken(token);
+        EXPECT_EQ(Send(service, code, data, reply), 0);
+        return reply.ReadBool();
+    }
+
+    static constexpr int32_t LOAD_TIMEOUT_SECONDS = 1;
+
+    sptr<IRemoteObject> shareService_;
+    sptr<IRemoteObject> shareManager_;
+};
+
+// Writes a device record of the share manager service field by field; the device id is its key.
+inline void WriteDeviceRecord(MessageParcel& data, const std::string& deviceId)
+{
+    data.WriteString("name");
+    data.WriteString("account");
+    data.WriteString("avatar");
+    for (int i = 0; i < 5; ++i) {
+        data.WriteInt32(i);
+    }
+    data.WriteBool(false);
+    data.WriteInt32(14);
+    data.WriteString(deviceId);
+    data.WriteInt32(9);
+    data.WriteInt64(1);
+    data.WriteBool(true);
+    data.WriteInt32(1);
+    data.WriteString("contact");
+    data.WriteString("photo");
+    data.WriteBool(true);
+    data.WriteUint32(7);
+    data.WriteString("concurrent");
+    data.WriteInt32(0);
+}
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // EMULATOR_TEST_FIXTURE_H
