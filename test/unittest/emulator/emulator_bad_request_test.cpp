@@ -4,6 +4,7 @@
  */
 #include <cctype>
 #include <functional>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,12 @@ struct BadRequest {
     std::function<void(MessageParcel&)> write;
     int expected;
 };
+
+// gtest would otherwise print the raw bytes of the struct, padding included.
+void PrintTo(const BadRequest& request, std::ostream* out)
+{
+    *out << request.name;
+}
 
 void ShareToken(MessageParcel& data)
 {

@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 
 #include <cstdio>
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,12 @@ struct Case {
     std::vector<std::string> shown;
     std::vector<std::string> absent;
 };
+
+// gtest would otherwise print the raw bytes of the struct, padding included.
+void PrintTo(const Case& testCase, std::ostream* out)
+{
+    *out << testCase.name;
+}
 
 const std::vector<Case> CASES = {
     {"DefaultSession",
