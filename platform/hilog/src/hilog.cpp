@@ -20,7 +20,8 @@ constexpr size_t MAX_MESSAGE = 4096;
 constexpr unsigned int CORE_DOMAIN_MIN = 0xD000000;
 constexpr unsigned int CORE_DOMAIN_MAX = 0xD0FFFFF;
 
-std::atomic<int> g_threshold{LOG_INFO};
+// WARN, so that a process calling the library in a loop does not pay for a console line per call.
+std::atomic<int> g_threshold{LOG_WARN};
 // Sinks plus the callback: when there are none, a line below the threshold costs one atomic load.
 std::atomic<int> g_listeners{0};
 std::atomic<LogCallback> g_callback{nullptr};

@@ -15,7 +15,7 @@
 namespace OHOS {
 namespace HiviewDFX {
 
-// Lines below the threshold are not printed on stderr (sinks still receive them). INFO by default.
+// Lines below the threshold are not printed on stderr (sinks still receive them). WARN by default.
 void HiLogSetThreshold(LogLevel level);
 LogLevel HiLogGetThreshold();
 
