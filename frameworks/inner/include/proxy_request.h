@@ -45,9 +45,9 @@ public:
     // Keeps the remote object for Send; logs "Remote() return nullptr." when there is none.
     bool HasRemote(sptr<IRemoteObject> remote);
     // Writes the interface token; logs "Write descriptor failed" when it cannot.
-    bool WriteToken(const std::u16string& descriptor);
+    bool WriteToken(std::u16string descriptor);
     // HasRemote, then WriteToken: the common opening of a request.
-    bool Start(sptr<IRemoteObject> remote, const std::u16string& descriptor);
+    bool Start(sptr<IRemoteObject> remote, std::u16string descriptor);
 
     // A checked step: logs failureText at error level when ok is false. Returns ok.
     bool Check(bool ok, const char* failureText);

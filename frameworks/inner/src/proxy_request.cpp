@@ -1,9 +1,16 @@
 #include "proxy_request.h"
 
+#include <utility>
+
 #include "share_common_constants.h"
 
 namespace OHOS {
 namespace Zelkon {
+namespace {
+
+constexpr size_t FIRST_REQUEST_CAPACITY = 256;
+
+} // namespace
 
 ProxyRequest::ProxyRequest(const RequestLabels& labels, const LogSite& site, const RequestTexts& texts) :
     labels_(labels), site_(site), texts_(texts)
@@ -19,14 +26,16 @@ bool ProxyRequest::HasRemote(sptr<IRemoteObject> remote)
     return Check(remote_ != nullptr, "Remote() return nullptr.");
 }
 
-bool ProxyRequest::WriteToken(const std::u16string& descriptor)
+bool ProxyRequest::WriteToken(std::u16string descriptor)
 {
-    return Check(data_.WriteInterfaceToken(descriptor), "Write descriptor failed");
+    // The token alone fills the parcel's first 64 bytes; one allocation then holds a typical request whole.
+    data_.SetDataCapacity(FIRST_REQUEST_CAPACITY);
+    return Check(data_.WriteInterfaceToken(std::move(descriptor)), "Write descriptor failed");
 }
 
-bool ProxyRequest::Start(sptr<IRemoteObject> remote, const std::u16string& descriptor)
+bool ProxyRequest::Start(sptr<IRemoteObject> remote, std::u16string descriptor)
 {
-    return HasRemote(std::move(remote)) && WriteToken(descriptor);
+    return HasRemote(std::move(remote)) && WriteToken(std::move(descriptor));
 }
 
 bool ProxyRequest::Check(bool ok, const char* failureText)
