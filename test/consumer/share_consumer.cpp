@@ -1,5 +1,6 @@
-// Calls both clients the way an application does, with no share service present: every call must come back with
-// its neutral result, and the records must cross a parcel intact through the installed library.
+// Calls both clients the way an application does: first with no share service present, where every call comes
+// back with its neutral result, then against the installed emulator of both services; and the records must cross a
+// parcel intact through the installed library.
 #include <cstdio>
 #include <memory>
 #include <string>
@@ -7,6 +8,7 @@
 #include "message_parcel.h"
 #include "share_client.h"
 #include "share_device_info.h"
+#include "share_emulator.h"
 #include "share_manager_client.h"
 
 namespace {
@@ -55,6 +57,18 @@ void UseShareManagerClient()
     Expect(client.GetReceiverActionCallback() == nullptr, "ShareManagerClient::GetReceiverActionCallback is null");
 }
 
+void UseEmulatedServices()
+{
+    OHOS::Zelkon::ShareEmulator::Install();
+    OHOS::Zelkon::ShareClient& client = OHOS::Zelkon::ShareClient::GetInstance();
+    Expect(client.Connect() == 0, "ShareClient::Connect loads the emulated share service");
+    Expect(!client.GetPermanentDeviceList().empty(), "ShareClient::GetPermanentDeviceList lists the emulated devices");
+    OHOS::Zelkon::ShareManagerClient& manager = OHOS::Zelkon::ShareManagerClient::GetInstance();
+    Expect(manager.SetShareEnable(0, 1, true) && manager.IsEnabled(), "ShareManagerClient switches sharing on");
+    Expect(!manager.GetAllUserList().empty(), "ShareManagerClient::GetAllUserList lists the emulated users");
+    OHOS::Zelkon::ShareEmulator::Uninstall();
+}
+
 void UseRecords()
 {
     OHOS::Zelkon::ShareDeviceInfo written;
@@ -75,6 +89,7 @@ int main()
 {
     UseShareClient();
     UseShareManagerClient();
+    UseEmulatedServices();
     UseRecords();
     std::printf("%d failed\n", g_failures);
     return g_failures == 0 ? 0 : 1;
