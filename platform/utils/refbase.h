@@ -206,10 +206,11 @@ public:
         return *this;
     }
 
-    // A strong reference, or null once the object's last strong reference has gone.
+    // A strong reference, or null once the object's last strong reference has gone or the object was destroyed
+    // (one never strongly held keeps its initial count when it dies).
     sptr<T> promote() const
     {
-        if (refs_ == nullptr || !refs_->AttemptIncStrong()) {
+        if (GetRefPtr() == nullptr || !refs_->AttemptIncStrong()) {
             return nullptr;
         }
         return sptr<T>(object_, typename sptr<T>::AdoptTag{});

@@ -12,9 +12,10 @@ constexpr size_t WORD = 4;
 constexpr size_t MIN_CAPACITY = 64;
 constexpr size_t CAPACITY_STEP = 4096;
 
+// A size too large to pad saturates instead of wrapping to 0, so it stays too large for every check that follows.
 size_t Pad4(size_t size)
 {
-    return (size + WORD - 1) & ~(WORD - 1);
+    return size > SIZE_MAX - (WORD - 1) ? SIZE_MAX : (size + WORD - 1) & ~(WORD - 1);
 }
 
 // 64, 128, ... doubling up to 4096, then whole steps of 4096 with one step of headroom.
