@@ -11,6 +11,7 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "iremote_object.h"
@@ -75,8 +76,15 @@ public:
     static constexpr int32_t LEGACY_NEARBY_VERSION = 8;
 
 private:
+    struct ForwardTexts;
+
     // Connect, then a copy of the proxy taken under the lock; null after logging the failure at the caller's site.
     sptr<ZelkonService> ConnectedProxy(const LogSite& site);
+    // The one body of the forwarding operations: enter line, the neutral result for refused arguments or a missing
+    // proxy, the call outside the lock, exit line; all logged at the operation's site.
+    template <typename Call>
+    std::invoke_result_t<Call, ZelkonService&> Forward(const LogSite& site, const ForwardTexts& texts,
+                                                       bool argumentsValid, Call&& call);
 
     std::mutex mutex_;
     std::condition_variable proxyReady_;

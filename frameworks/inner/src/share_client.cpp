@@ -144,136 +144,96 @@ sptr<ZelkonService> ShareClient::ConnectedProxy(const LogSite& site)
     return proxy;
 }
 
+// An operation's enter and exit lines (exit null: none) at one level, and the error line for a refused argument
+// (null: refused silently).
+struct ShareClient::ForwardTexts {
+    ForwardTexts(const char* enterText, const char* exitText, LogLevel textLevel, const char* refusalText = nullptr) :
+        enter(enterText), exit(exitText), level(textLevel), refusal(refusalText)
+    {
+    }
+
+    const char* enter;
+    const char* exit;
+    LogLevel level;
+    const char* refusal;
+};
+
+template <typename Call>
+std::invoke_result_t<Call, ZelkonService&> ShareClient::Forward(const LogSite& site, const ForwardTexts& texts,
+                                                                bool argumentsValid, Call&& call)
+{
+    using Result = std::invoke_result_t<Call, ZelkonService&>;
+    SHARE_LOG_AT(SHARE_CLIENT_LABEL, texts.level, site, "%{public}s", texts.enter);
+    if (!argumentsValid) {
+        if (texts.refusal != nullptr) {
+            SHARE_LOG_AT(SHARE_CLIENT_LABEL, LOG_ERROR, site, "%{public}s", texts.refusal);
+        }
+        return Result{};
+    }
+    sptr<ZelkonService> proxy = ConnectedProxy(site);
+    if (proxy == nullptr) {
+        return Result{};
+    }
+    Result result = call(*proxy);
+    if (texts.exit != nullptr) {
+        SHARE_LOG_AT(SHARE_CLIENT_LABEL, texts.level, site, "%{public}s", texts.exit);
+    }
+    return result;
+}
+
 int32_t ShareClient::Publish(const sptr<IPublishListener>& listener)
 {
-    SHARE_CLIENT_LOGD("Publish Enter");
-    if (listener == nullptr) {
-        return 0;
-    }
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->PublishDevice(listener);
-    SHARE_CLIENT_LOGD("Publish Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"Publish Enter", "Publish Exit", LOG_DEBUG}, listener != nullptr,
+                   [&](ZelkonService& proxy) { return proxy.PublishDevice(listener); });
 }
 
 int32_t ShareClient::UnPublish(int32_t publishId, const sptr<IPublishListener>& listener)
 {
-    SHARE_CLIENT_LOGD("UnPublish Enter");
-    if (listener == nullptr) {
-        return 0;
-    }
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->UnPublishDevice(publishId, listener);
-    SHARE_CLIENT_LOGD("UnPublish Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"UnPublish Enter", "UnPublish Exit", LOG_DEBUG}, listener != nullptr,
+                   [&](ZelkonService& proxy) { return proxy.UnPublishDevice(publishId, listener); });
 }
 
 int32_t ShareClient::Subscribe(const sptr<ISubscribeListener>& listener)
 {
-    SHARE_CLIENT_LOGD("Subscribe Enter");
-    if (listener == nullptr) {
-        return 0;
-    }
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->SubscribeDevice(listener);
-    SHARE_CLIENT_LOGD("SubscribeDevice Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"Subscribe Enter", "SubscribeDevice Exit", LOG_DEBUG}, listener != nullptr,
+                   [&](ZelkonService& proxy) { return proxy.SubscribeDevice(listener); });
 }
 
 int32_t ShareClient::UnSubscribe(int32_t subscribeId, const sptr<ISubscribeListener>& listener)
 {
-    SHARE_CLIENT_LOGD("UnSubscribe Enter");
-    if (listener == nullptr) {
-        return 0;
-    }
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->UnSubscribeDevice(subscribeId, listener);
-    SHARE_CLIENT_LOGD("UnSubscribe Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"UnSubscribe Enter", "UnSubscribe Exit", LOG_DEBUG}, listener != nullptr,
+                   [&](ZelkonService& proxy) { return proxy.UnSubscribeDevice(subscribeId, listener); });
 }
 
 int32_t ShareClient::ReportSwingEvent(int32_t gesture, int32_t x, int32_t y, std::string concurrentId)
 {
-    SHARE_CLIENT_LOGI("Enter");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->ReportSwingEvent(gesture, x, y, concurrentId);
-    SHARE_CLIENT_LOGI("Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"Enter", "Exit", LOG_INFO}, true,
+                   [&](ZelkonService& proxy) { return proxy.ReportSwingEvent(gesture, x, y, concurrentId); });
 }
 
 int32_t ShareClient::SwingSubscribe(const sptr<ISubscribeListener>& listener)
 {
-    SHARE_CLIENT_LOGD("SwingSubscribe Enter");
-    if (listener == nullptr) {
-        return 0;
-    }
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->SwingSubscribe(listener);
-    SHARE_CLIENT_LOGD("SubscribeDevice Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"SwingSubscribe Enter", "SubscribeDevice Exit", LOG_DEBUG}, listener != nullptr,
+                   [&](ZelkonService& proxy) { return proxy.SwingSubscribe(listener); });
 }
 
 int32_t ShareClient::SwingUnSubscribe(const sptr<ISubscribeListener>& listener)
 {
-    SHARE_CLIENT_LOGD("UnSubscribe Enter");
-    if (listener == nullptr) {
-        return 0;
-    }
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->SwingUnSubscribe(listener);
-    SHARE_CLIENT_LOGD("UnSubscribe Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"UnSubscribe Enter", "UnSubscribe Exit", LOG_DEBUG}, listener != nullptr,
+                   [&](ZelkonService& proxy) { return proxy.SwingUnSubscribe(listener); });
 }
 
 int32_t ShareClient::RegisterReceiveListener(const sptr<ZelkonReceiveListener>& listener)
 {
-    SHARE_CLIENT_LOGD("RegisterReceiveListener Enter");
-    if (listener == nullptr) {
-        return 0;
-    }
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->RegisterReceiveListener(listener);
-    SHARE_CLIENT_LOGD("RegisterReceiveListener Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"RegisterReceiveListener Enter", "RegisterReceiveListener Exit", LOG_DEBUG},
+                   listener != nullptr, [&](ZelkonService& proxy) { return proxy.RegisterReceiveListener(listener); });
 }
 
 int32_t ShareClient::UnRegisterReceiveListener(const sptr<ZelkonReceiveListener>& listener)
 {
-    SHARE_CLIENT_LOGD("UnRegisterReceiveListener Enter");
-    if (listener == nullptr) {
-        return 0;
-    }
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->UnRegisterReceiveListener(listener);
-    SHARE_CLIENT_LOGD("UnRegisterReceiveListener Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"UnRegisterReceiveListener Enter", "UnRegisterReceiveListener Exit", LOG_DEBUG},
+                   listener != nullptr,
+                   [&](ZelkonService& proxy) { return proxy.UnRegisterReceiveListener(listener); });
 }
 
 // The send operations log their exit before the call, and the two SendFile exit texts are crossed over: both as
@@ -314,12 +274,8 @@ sptr<ZelkonSender> ShareClient::SendBytes(const TransmitParam& param, const Byte
 
 sptr<ZelkonSender> ShareClient::CommonShareSend(CommonShareObject& shareObject, const sptr<ITransmitCallback>& callback)
 {
-    SHARE_CLIENT_LOGD("CommonShareSend start");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return nullptr;
-    }
-    return proxy->CommonShareSend(shareObject, callback);
+    return Forward(SHARE_LOG_SITE, {"CommonShareSend start", nullptr, LOG_DEBUG}, true,
+                   [&](ZelkonService& proxy) { return proxy.CommonShareSend(shareObject, callback); });
 }
 
 void ShareClient::Cancel(std::string networkId)
@@ -334,78 +290,41 @@ void ShareClient::Cancel(std::string networkId)
 
 int32_t ShareClient::EnableDiscoveryPolicy(int32_t policy)
 {
-    SHARE_CLIENT_LOGD("EnableDiscoveryPolicy Enter");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->EnableDiscoveryPolicy(policy);
-    SHARE_CLIENT_LOGD("EnableDiscoveryPolicy Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"EnableDiscoveryPolicy Enter", "EnableDiscoveryPolicy Exit", LOG_DEBUG}, true,
+                   [&](ZelkonService& proxy) { return proxy.EnableDiscoveryPolicy(policy); });
 }
 
 int32_t ShareClient::SetAccountPermission(int32_t permission)
 {
-    SHARE_CLIENT_LOGD("SetAccountPermission Enter");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->SetAccountPermission(permission);
-    SHARE_CLIENT_LOGD("SetAccountPermission Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"SetAccountPermission Enter", "SetAccountPermission Exit", LOG_DEBUG}, true,
+                   [&](ZelkonService& proxy) { return proxy.SetAccountPermission(permission); });
 }
 
 int32_t ShareClient::RegisterCommonReceiveListener(const sptr<ICommonReceiveListener>& listener)
 {
-    SHARE_CLIENT_LOGD("RegisterCommonReceiveListener Enter");
-    if (listener == nullptr) {
-        SHARE_CLIENT_LOGE("listener is null.");
-        return 0;
-    }
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->RegisterCommonReceiveListener(listener);
-    SHARE_CLIENT_LOGD("RegisterCommonReceiveListener Exit");
-    return result;
+    return Forward(
+        SHARE_LOG_SITE,
+        {"RegisterCommonReceiveListener Enter", "RegisterCommonReceiveListener Exit", LOG_DEBUG, "listener is null."},
+        listener != nullptr, [&](ZelkonService& proxy) { return proxy.RegisterCommonReceiveListener(listener); });
 }
 
 int32_t ShareClient::UnRegisterCommonReceiveListener()
 {
-    SHARE_CLIENT_LOGD("UnRegisterCommonReceiveListener Enter");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->UnRegisterCommonReceiveListener();
-    SHARE_CLIENT_LOGD("UnRegisterCommonReceiveListener Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE,
+                   {"UnRegisterCommonReceiveListener Enter", "UnRegisterCommonReceiveListener Exit", LOG_DEBUG}, true,
+                   [](ZelkonService& proxy) { return proxy.UnRegisterCommonReceiveListener(); });
 }
 
 int32_t ShareClient::SuspendWifiScanning(const std::string& ifName)
 {
-    SHARE_CLIENT_LOGI("SuspendWifiScanning Enter");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->SuspendWifiScanning(ifName);
-    SHARE_CLIENT_LOGI("SuspendWifiScanning Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"SuspendWifiScanning Enter", "SuspendWifiScanning Exit", LOG_INFO}, true,
+                   [&](ZelkonService& proxy) { return proxy.SuspendWifiScanning(ifName); });
 }
 
 int32_t ShareClient::ResumeWifiScanning(const std::string& ifName)
 {
-    SHARE_CLIENT_LOGI("ResumeWifiScanning Enter");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->ResumeWifiScanning(ifName);
-    SHARE_CLIENT_LOGI("ResumeWifiScanning Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"ResumeWifiScanning Enter", "ResumeWifiScanning Exit", LOG_INFO}, true,
+                   [&](ZelkonService& proxy) { return proxy.ResumeWifiScanning(ifName); });
 }
 
 int32_t ShareClient::OnCollabDeviceFound(const sptr<ShareDevice>& device, const sptr<ISubscribeListener>& listener,
@@ -432,62 +351,32 @@ int32_t ShareClient::OnCollabDeviceFound(const sptr<ShareDevice>& device, const 
 
 int32_t ShareClient::ClearDiscovererFlag(const std::string& deviceId, uint32_t flag)
 {
-    SHARE_CLIENT_LOGI("ClearDiscovererFlag Enter");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->ClearDiscovererFlag(deviceId, flag);
-    SHARE_CLIENT_LOGI("ClearDiscovererFlag Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"ClearDiscovererFlag Enter", "ClearDiscovererFlag Exit", LOG_INFO}, true,
+                   [&](ZelkonService& proxy) { return proxy.ClearDiscovererFlag(deviceId, flag); });
 }
 
 int32_t ShareClient::GetPontalPublishInfo(std::string& publishInfo)
 {
-    SHARE_CLIENT_LOGI("GetPontalPublishInfo Enter");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->GetPontalPublishInfo(publishInfo);
-    SHARE_CLIENT_LOGI("GetPontalPublishInfo Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"GetPontalPublishInfo Enter", "GetPontalPublishInfo Exit", LOG_INFO}, true,
+                   [&](ZelkonService& proxy) { return proxy.GetPontalPublishInfo(publishInfo); });
 }
 
 int32_t ShareClient::ApplyUriPermission(const std::string& deviceId)
 {
-    SHARE_CLIENT_LOGI("ApplyUriPermission Enter");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->ApplyUriPermission(deviceId);
-    SHARE_CLIENT_LOGI("ApplyUriPermission Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"ApplyUriPermission Enter", "ApplyUriPermission Exit", LOG_INFO}, true,
+                   [&](ZelkonService& proxy) { return proxy.ApplyUriPermission(deviceId); });
 }
 
 std::vector<PermanentDeviceInfo> ShareClient::GetPermanentDeviceList()
 {
-    SHARE_CLIENT_LOGI("GetPermanentDeviceList Enter");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return {};
-    }
-    std::vector<PermanentDeviceInfo> devices = proxy->GetPermanentDeviceList();
-    SHARE_CLIENT_LOGI("GetPermanentDeviceList Exit");
-    return devices;
+    return Forward(SHARE_LOG_SITE, {"GetPermanentDeviceList Enter", "GetPermanentDeviceList Exit", LOG_INFO}, true,
+                   [](ZelkonService& proxy) { return proxy.GetPermanentDeviceList(); });
 }
 
 int32_t ShareClient::RemovePermanentDeviceById(int32_t id)
 {
-    SHARE_CLIENT_LOGI("RemovePermanentDeviceById Enter");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return 0;
-    }
-    int32_t result = proxy->RemovePermanentDeviceById(id);
-    SHARE_CLIENT_LOGI("RemovePermanentDeviceById Exit");
-    return result;
+    return Forward(SHARE_LOG_SITE, {"RemovePermanentDeviceById Enter", "RemovePermanentDeviceById Exit", LOG_INFO},
+                   true, [&](ZelkonService& proxy) { return proxy.RemovePermanentDeviceById(id); });
 }
 
 } // namespace Zelkon
