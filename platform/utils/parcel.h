@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <string>
 
 #include "nocopyable.h"
@@ -131,6 +132,10 @@ public:
 protected:
     // Reserves size bytes at the write cursor within the maximum capacity and returns where they start.
     uint8_t* Reserve(size_t size);
+    // Object records (remote objects, file descriptors) in the data: no primitive or text read may overlap one, so
+    // that a hostile peer cannot have a record read as a number or a text is read into one.
+    void AddObject(size_t offset, size_t size);
+    bool HasObjectAt(size_t offset) const;
 
 private:
     template <typename T>
@@ -145,6 +150,7 @@ private:
     bool WriteText(const Str& value, size_t maxLength);
     template <typename Str>
     bool ReadText(Str& value);
+    bool OverlapsObject(size_t start, size_t size) const;
 
     uint8_t* data_ = nullptr;
     size_t capacity_ = 0;
@@ -152,6 +158,8 @@ private:
     size_t dataSize_ = 0;
     size_t writeCursor_ = 0;
     size_t readCursor_ = 0;
+    // Start offset to size, disjoint.
+    std::map<size_t, size_t> objects_;
 };
 
 } // namespace OHOS

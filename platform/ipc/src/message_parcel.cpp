@@ -53,6 +53,7 @@ bool MessageParcel::WriteRecord(uint32_t type, uint64_t value, const Carried& ca
         return false;
     }
     carried_[start] = carried;
+    AddObject(start, RECORD_SIZE);
     return true;
 }
 

@@ -78,7 +78,8 @@ bool ProcessBoundary::Copy(const MessageParcel& from, MessageParcel& to)
     const auto* data = reinterpret_cast<const uint8_t*>(from.GetData());
     std::vector<uint8_t> bytes(data, data + size);
     for (const auto& [offset, carried] : from.carried_) {
-        if (offset + RECORD_SIZE > size) {
+        // A record overwritten after a rewind is plain data now.
+        if (!from.HasObjectAt(offset)) {
             continue;
         }
         MessageParcel::Carried copy{carried.kind, nullptr, INVALID_FD};
@@ -96,6 +97,7 @@ bool ProcessBoundary::Copy(const MessageParcel& from, MessageParcel& to)
             PutWord(bytes, offset + RECORD_VALUE_OFFSET, &value, sizeof(value));
         }
         to.carried_[base + offset] = copy;
+        to.AddObject(base + offset, RECORD_SIZE);
     }
     if (size == 0) {
         return true;

@@ -4,6 +4,7 @@
 #include <climits>
 #include <cstdlib>
 #include <cstring>
+#include <iterator>
 
 namespace OHOS {
 namespace {
@@ -110,7 +111,36 @@ bool Parcel::RewindWrite(size_t offsets)
     writeCursor_ = offsets;
     dataSize_ = offsets;
     readCursor_ = std::min(readCursor_, offsets);
+    // Records cut by the rewind are gone: the bytes that replace them are plain data.
+    auto firstCut = objects_.lower_bound(offsets);
+    if (firstCut != objects_.begin() && std::prev(firstCut)->first + std::prev(firstCut)->second > offsets) {
+        --firstCut;
+    }
+    objects_.erase(firstCut, objects_.end());
     return true;
+}
+
+void Parcel::AddObject(size_t offset, size_t size)
+{
+    objects_[offset] = size;
+}
+
+bool Parcel::HasObjectAt(size_t offset) const
+{
+    return objects_.count(offset) != 0;
+}
+
+bool Parcel::OverlapsObject(size_t start, size_t size) const
+{
+    if (objects_.empty() || size == 0) {
+        return false;
+    }
+    auto after = objects_.lower_bound(start + size);
+    if (after == objects_.begin()) {
+        return false;
+    }
+    const auto& [offset, objectSize] = *std::prev(after);
+    return offset + objectSize > start;
 }
 
 void Parcel::SkipBytes(size_t bytes)
@@ -275,7 +305,7 @@ bool Parcel::WriteStrongParcelable(const sptr<Parcelable>& object)
 template <typename T>
 bool Parcel::ReadWord(T& value)
 {
-    if (GetReadableBytes() < sizeof(T)) {
+    if (GetReadableBytes() < sizeof(T) || OverlapsObject(readCursor_, sizeof(T))) {
         return false;
     }
     std::memcpy(&value, data_ + readCursor_, sizeof(T));
@@ -341,7 +371,7 @@ uintptr_t Parcel::ReadPointer()
 
 const uint8_t* Parcel::ReadBuffer(size_t length)
 {
-    if (length > GetReadableBytes()) {
+    if (length > GetReadableBytes() || OverlapsObject(readCursor_, length)) {
         return nullptr;
     }
     const uint8_t* start = data_ + readCursor_;
@@ -388,7 +418,7 @@ bool Parcel::ReadText(Str& value)
     if (bytes <= GetReadableBytes()) {
         std::memcpy(&terminator, body + count * sizeof(Unit), sizeof(Unit));
     }
-    if (bytes > GetReadableBytes() || terminator != 0) {
+    if (bytes > GetReadableBytes() || terminator != 0 || OverlapsObject(readCursor_, bytes)) {
         readCursor_ = start;
         value.clear();
         return false;

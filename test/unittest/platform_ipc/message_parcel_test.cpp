@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <fcntl.h>
+#include <functional>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -298,6 +299,82 @@ TEST(MessageParcelTest, RecordOverwrittenAfterRewindIsNotRead)
     ASSERT_TRUE(parcel.RewindWrite(0));
     FillTo(parcel, RECORD_SIZE);
     EXPECT_EQ(parcel.ReadRemoteObject(), nullptr);
+}
+
+// A record sits between an int32 and a string; each read that would take one of its bytes as plain data fails
+// and leaves the position, on the writing side and after crossing the process boundary alike.
+TEST(MessageParcelTest, PlainReadsMayNotOverlapAnObjectRecord)
+{
+    sptr<IRemoteObject> stub = new RecordingStub();
+    MessageParcel sent;
+    sent.WriteInt32(7);
+    ASSERT_TRUE(sent.WriteRemoteObject(stub));
+    sent.WriteString("after");
+    MessageParcel received;
+    ASSERT_TRUE(ProcessBoundary::Copy(sent, received));
+
+    const struct {
+        const char* name;
+        size_t position;
+        std::function<bool(MessageParcel&)> read;
+    } cases[] = {
+        {"int32 on the record", 4,
+         [](MessageParcel& p) {
+             int32_t v;
+             return p.ReadInt32(v);
+         }},
+        {"int32 in the record", 12,
+         [](MessageParcel& p) {
+             int32_t v;
+             return p.ReadInt32(v);
+         }},
+        {"int64 across its start", 0,
+         [](MessageParcel& p) {
+             int64_t v;
+             return p.ReadInt64(v);
+         }},
+        {"int32 at its last word", 4 + RECORD_SIZE - 4,
+         [](MessageParcel& p) {
+             int32_t v;
+             return p.ReadInt32(v);
+         }},
+        {"buffer across it", 0, [](MessageParcel& p) { return p.ReadBuffer(8) != nullptr; }},
+        {"string whose body runs into it", 0,
+         [](MessageParcel& p) {
+             std::string v;
+             return p.ReadString(v);
+         }},
+    };
+    for (MessageParcel* parcel : {&sent, &received}) {
+        for (const auto& c : cases) {
+            SCOPED_TRACE(c.name);
+            ASSERT_TRUE(parcel->RewindRead(c.position));
+            EXPECT_FALSE(c.read(*parcel));
+            EXPECT_EQ(parcel->GetReadPosition(), c.position);
+        }
+        // What surrounds the record still reads.
+        ASSERT_TRUE(parcel->RewindRead(0));
+        EXPECT_EQ(parcel->ReadInt32(), 7);
+        EXPECT_NE(parcel->ReadRemoteObject(), nullptr);
+        EXPECT_EQ(parcel->ReadString(), "after");
+    }
+}
+
+// The string's length word claims the record as its body; in a parcel without the record the same bytes read.
+TEST(MessageParcelTest, OverlapRuleFollowsTheRecordNotTheBytes)
+{
+    sptr<IRemoteObject> stub = new RecordingStub();
+    MessageParcel parcel;
+    parcel.WriteInt32(RECORD_SIZE - 1);
+    ASSERT_TRUE(parcel.WriteRemoteObject(stub));
+    std::string text;
+    EXPECT_FALSE(parcel.ReadString(text));
+
+    ASSERT_TRUE(parcel.RewindWrite(4));
+    FillTo(parcel, RECORD_SIZE);
+    ASSERT_TRUE(parcel.RewindRead(0));
+    EXPECT_TRUE(parcel.ReadString(text));
+    EXPECT_EQ(text.size(), RECORD_SIZE - 1);
 }
 
 class LifetimeStub : public RecordingStub {
