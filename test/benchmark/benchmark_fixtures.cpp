@@ -14,34 +14,6 @@
 namespace OHOS {
 namespace Zelkon {
 
-ShareDeviceInfo FilledDevice()
-{
-    constexpr size_t avatarSize = 2048;
-    ShareDeviceInfo device;
-    device.deviceName = "Living room tablet";
-    device.norvaneIdName = "ada@example";
-    device.avatar = std::string(avatarSize, 'A');
-    device.colorId = 3;
-    device.eventCode = 101;
-    device.stateCode = 2;
-    device.percent = 57;
-    device.speed = 1200;
-    device.isDisappeared = true;
-    device.deviceType = 14;
-    device.deviceId = "udid-0042-7f3a-11ee";
-    device.nearbyVersion = 9;
-    device.lastSharedTime = 1700000000123LL;
-    device.isSameAccount = true;
-    device.contactInfo.contactKind = 2;
-    device.contactInfo.contactName = "Ada";
-    device.contactInfo.contactPhoto = "data:image/png;base64,AAAA";
-    device.isOHDevice = true;
-    device.deviceFounder = 0x80000001u;
-    device.concurentId = "concurrent-7";
-    device.extraValue = -5;
-    return device;
-}
-
 size_t WrittenSize(const ShareDeviceInfo& device)
 {
     Parcel parcel;

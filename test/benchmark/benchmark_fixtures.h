@@ -1,6 +1,6 @@
 /*
- * What the benchmarks share: the filled device record they move around, and the two services registered with
- * the host system ability manager, answered by stubs that cost as little as possible.
+ * What the benchmarks share: the size of a written record, and the two services registered with the host system
+ * ability manager, answered by stubs that cost as little as possible.
  */
 #ifndef BENCHMARK_FIXTURES_H
 #define BENCHMARK_FIXTURES_H
@@ -12,9 +12,6 @@
 
 namespace OHOS {
 namespace Zelkon {
-
-// Every field set, with a 2 KiB avatar.
-ShareDeviceInfo FilledDevice();
 
 // The bytes that the record's writer puts in a parcel.
 size_t WrittenSize(const ShareDeviceInfo& device);

@@ -10,6 +10,7 @@
 
 #include "benchmark_fixtures.h"
 #include "parcel.h"
+#include "sample_records.h"
 #include "share_device_info.h"
 
 namespace OHOS {
@@ -18,7 +19,7 @@ namespace {
 
 void BM_RecordRoundTrip(benchmark::State& state)
 {
-    const ShareDeviceInfo device = FilledDevice();
+    const ShareDeviceInfo device = FilledDeviceWithLargeAvatar();
     for (auto _ : state) {
         Parcel parcel;
         ShareDeviceInfo read;
@@ -34,7 +35,7 @@ BENCHMARK(BM_RecordRoundTrip);
 // The copy in and the copy out of the record's bytes, with nothing else.
 void BM_RecordMemcpy(benchmark::State& state)
 {
-    const size_t size = WrittenSize(FilledDevice());
+    const size_t size = WrittenSize(FilledDeviceWithLargeAvatar());
     std::vector<char> source(size, 'r');
     std::vector<char> wire(size);
     std::vector<char> target(size);

@@ -9,6 +9,7 @@
 
 #include "benchmark_fixtures.h"
 #include "message_parcel.h"
+#include "sample_records.h"
 #include "share_manager_srv_proxy.h"
 
 namespace OHOS {
@@ -21,7 +22,7 @@ std::string UserListReply()
 {
     MessageParcel reply;
     reply.WriteInt32(RECORDS);
-    const ShareDeviceInfo device = FilledDevice();
+    const ShareDeviceInfo device = FilledDeviceWithLargeAvatar();
     for (int32_t i = 0; i < RECORDS; ++i) {
         device.Marshalling(reply);
     }

@@ -11,6 +11,7 @@
 #include "contact_info.h"
 #include "message_parcel.h"
 #include "parcel_util.h"
+#include "sample_records.h"
 #include "share_account_info.h"
 #include "share_device_info.h"
 
@@ -56,28 +57,10 @@ ContactInfo FilledContact()
     return contact;
 }
 
-ShareDeviceInfo FilledDevice(const std::string& name)
+ShareDeviceInfo NamedDevice(const std::string& name)
 {
-    ShareDeviceInfo device;
+    ShareDeviceInfo device = FilledDevice();
     device.deviceName = name;
-    device.norvaneIdName = "ada@example";
-    device.avatar = std::string(64, 'A');
-    device.colorId = 3;
-    device.eventCode = 101;
-    device.stateCode = 2;
-    device.percent = 57;
-    device.speed = 1200;
-    device.isDisappeared = true;
-    device.deviceType = 14;
-    device.deviceId = "udid-0042";
-    device.nearbyVersion = 9;
-    device.lastSharedTime = 1700000000123LL;
-    device.isSameAccount = true;
-    device.contactInfo = FilledContact();
-    device.isOHDevice = true;
-    device.deviceFounder = 0x80000001u;
-    device.concurentId = "c-7";
-    device.extraValue = -5;
     return device;
 }
 
@@ -104,7 +87,7 @@ Writer UserList(int32_t count)
     return [count](MessageParcel& p) {
         bool ok = p.WriteInt32(count);
         for (int32_t i = 0; ok && i < count; ++i) {
-            ok = FilledDevice("device " + std::to_string(i)).Marshalling(p);
+            ok = NamedDevice("device " + std::to_string(i)).Marshalling(p);
         }
         return ok;
     };
@@ -119,7 +102,7 @@ void WriteRecordSeeds()
 {
     WriteSeed("share_device_info_fuzzer", "default", [](MessageParcel& p) { return ShareDeviceInfo().Marshalling(p); });
     WriteSeed("share_device_info_fuzzer", "filled",
-              [](MessageParcel& p) { return FilledDevice("tablet").Marshalling(p); });
+              [](MessageParcel& p) { return NamedDevice("tablet").Marshalling(p); });
     WriteSeed("contact_info_fuzzer", "default", [](MessageParcel& p) { return ContactInfo().Marshalling(p); });
     WriteSeed("contact_info_fuzzer", "filled", [](MessageParcel& p) { return FilledContact().Marshalling(p); });
     WriteSeed("share_account_info_fuzzer", "default",

@@ -33,13 +33,6 @@ std::function<bool(Parcel&)> Writer(std::function<void(Record&)> init)
     };
 }
 
-ShareDeviceInfo GoldenFilledDevice()
-{
-    ShareDeviceInfo device = FilledDevice();
-    device.avatar = std::string(2048, 'A');
-    return device;
-}
-
 ShareAccountInfo GoldenFilledAccount()
 {
     ShareAccountInfo account;
@@ -61,7 +54,7 @@ const std::vector<GoldenWriteCase>& WriteCases()
              r.contactPhoto = "data:image/png;base64,AAAA";
          })},
         {"device_default", 0, Writer<ShareDeviceInfo>([](ShareDeviceInfo&) {})},
-        {"device_filled", 0, Writer<ShareDeviceInfo>([](ShareDeviceInfo& r) { r = GoldenFilledDevice(); })},
+        {"device_filled", 0, Writer<ShareDeviceInfo>([](ShareDeviceInfo& r) { r = FilledDeviceWithLargeAvatar(); })},
         {"device_big_avatar", 0, Writer<ShareDeviceInfo>([](ShareDeviceInfo& r) {
              r.deviceName = "cam";
              r.avatar = std::string(300 * 1024, 'v');
@@ -117,7 +110,7 @@ TEST(GoldenRecordTest, ReadsTheRecordedDeviceBack)
     bool ok = false;
     ShareDeviceInfo device = ReadGolden<ShareDeviceInfo>("device_filled", ok);
     ASSERT_TRUE(ok);
-    ExpectSameDevice(device, GoldenFilledDevice());
+    ExpectSameDevice(device, FilledDeviceWithLargeAvatar());
 }
 
 TEST(GoldenRecordTest, ReadsTheRecordedContactBack)

@@ -1,6 +1,5 @@
 /*
- * Helpers of the record tests: the bytes of a parcel, parcels cut short, parcels filled up to a given room and
- * a filled-in device record.
+ * Helpers of the record tests: the bytes of a parcel, parcels cut short, parcels filled up to a given room.
  */
 #ifndef PARCEL_TEST_UTIL_H
 #define PARCEL_TEST_UTIL_H
@@ -12,6 +11,7 @@
 
 #include "hilog/log_capture.h"
 #include "message_parcel.h"
+#include "sample_records.h"
 #include "share_device_info.h"
 
 namespace OHOS {
@@ -54,33 +54,6 @@ inline std::vector<HiviewDFX::LogEntry> LinesOf(const HiviewDFX::ScopedLogCaptur
         }
     }
     return lines;
-}
-
-inline ShareDeviceInfo FilledDevice()
-{
-    ShareDeviceInfo device;
-    device.deviceName = "Living room tablet";
-    device.norvaneIdName = "ada@example";
-    device.avatar = "data:image/png;base64,iVBORw0KGgo=";
-    device.colorId = 3;
-    device.eventCode = 101;
-    device.stateCode = 2;
-    device.percent = 57;
-    device.speed = 1200;
-    device.isDisappeared = true;
-    device.deviceType = 17;
-    device.deviceId = "9F3C-11";
-    device.nearbyVersion = 9;
-    device.lastSharedTime = 1763800000123LL;
-    device.isSameAccount = true;
-    device.contactInfo.contactKind = 1;
-    device.contactInfo.contactName = "Ada";
-    device.contactInfo.contactPhoto = "photo";
-    device.isOHDevice = true;
-    device.deviceFounder = 0x80000001u;
-    device.concurentId = "c-42";
-    device.extraValue = -7;
-    return device;
 }
 
 inline void ExpectSameDevice(const ShareDeviceInfo& actual, const ShareDeviceInfo& expected)

@@ -1,0 +1,54 @@
+/*
+ * Records with every field set, shared by the unit tests, the benchmarks and the fuzzers' seed corpora. The values
+ * are those of the device's recorded "device_filled" parcel.
+ */
+#ifndef SAMPLE_RECORDS_H
+#define SAMPLE_RECORDS_H
+
+#include <string>
+
+#include "share_device_info.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+inline ShareDeviceInfo FilledDevice()
+{
+    ShareDeviceInfo device;
+    device.deviceName = "Living room tablet";
+    device.norvaneIdName = "ada@example";
+    device.avatar = "data:image/png;base64,iVBORw0KGgo=";
+    device.colorId = 3;
+    device.eventCode = 101;
+    device.stateCode = 2;
+    device.percent = 57;
+    device.speed = 1200;
+    device.isDisappeared = true;
+    device.deviceType = 17;
+    device.deviceId = "9F3C-11";
+    device.nearbyVersion = 9;
+    device.lastSharedTime = 1763800000123LL;
+    device.isSameAccount = true;
+    device.contactInfo.contactKind = 1;
+    device.contactInfo.contactName = "Ada";
+    device.contactInfo.contactPhoto = "photo";
+    device.isOHDevice = true;
+    device.deviceFounder = 0x80000001u;
+    device.concurentId = "c-42";
+    device.extraValue = -7;
+    return device;
+}
+
+// The recorded case itself: the same record with a 2 KiB avatar.
+inline ShareDeviceInfo FilledDeviceWithLargeAvatar()
+{
+    constexpr size_t avatarSize = 2048;
+    ShareDeviceInfo device = FilledDevice();
+    device.avatar = std::string(avatarSize, 'A');
+    return device;
+}
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // SAMPLE_RECORDS_H
