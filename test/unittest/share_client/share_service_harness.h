@@ -6,15 +6,15 @@
 #ifndef SHARE_SERVICE_HARNESS_H
 #define SHARE_SERVICE_HARNESS_H
 
-#include <chrono>
-#include <condition_variable>
+#include <functional>
 #include <memory>
-#include <mutex>
+#include <utility>
 
 #include <gtest/gtest.h>
 
 #include "ipc_threads.h"
 #include "iremote_stub.h"
+#include "notice_counter.h"
 #include "samgr_host_control.h"
 #include "scripted_stub.h"
 #include "share_client.h"
@@ -28,7 +28,7 @@ class TestRemote : public IRemoteStub<Interface> {
 };
 
 // Counts died notices and lets a test wait for one; an optional action runs inside OnShareSaDied.
-class CountingDiedCallback : public ShareSaDiedCallback {
+class CountingDiedCallback : public ShareSaDiedCallback, public NoticeCounter {
 public:
     explicit CountingDiedCallback(std::function<void()> action = {}) : action_(std::move(action)) {}
 
@@ -37,28 +37,11 @@ public:
         if (action_) {
             action_();
         }
-        std::lock_guard<std::mutex> lock(mutex_);
-        ++count_;
-        changed_.notify_all();
-    }
-
-    bool WaitForCount(int count, std::chrono::milliseconds timeout = std::chrono::seconds(5))
-    {
-        std::unique_lock<std::mutex> lock(mutex_);
-        return changed_.wait_for(lock, timeout, [&] { return count_ >= count; });
-    }
-
-    int Count()
-    {
-        std::lock_guard<std::mutex> lock(mutex_);
-        return count_;
+        Notice();
     }
 
 private:
     std::function<void()> action_;
-    std::mutex mutex_;
-    std::condition_variable changed_;
-    int count_ = 0;
 };
 
 class ShareServiceTest : public testing::Test {

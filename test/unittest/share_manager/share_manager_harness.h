@@ -7,8 +7,6 @@
 #define SHARE_MANAGER_HARNESS_H
 
 #include <algorithm>
-#include <chrono>
-#include <condition_variable>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -20,6 +18,7 @@
 #include "hilog/log.h"
 #include "iremote_stub.h"
 #include "iservice_registry.h"
+#include "notice_counter.h"
 #include "samgr_host_control.h"
 #include "scripted_stub.h"
 #include "share_manager_client.h"
@@ -108,31 +107,9 @@ inline constexpr const char* CLIENT_TAG = "ShareManagerClient";
 inline constexpr const char* PROXY_TAG = "ShareManagerProxy";
 
 // Counts died notices and lets a test wait for them.
-class CountingDiedCallback : public ShareManagerDiedCallback {
+class CountingDiedCallback : public ShareManagerDiedCallback, public NoticeCounter {
 public:
-    void OnShareManagerDied() override
-    {
-        std::lock_guard<std::mutex> lock(mutex_);
-        ++count_;
-        changed_.notify_all();
-    }
-
-    bool WaitForCount(int count, std::chrono::milliseconds timeout = std::chrono::seconds(5))
-    {
-        std::unique_lock<std::mutex> lock(mutex_);
-        return changed_.wait_for(lock, timeout, [&] { return count_ >= count; });
-    }
-
-    int Count()
-    {
-        std::lock_guard<std::mutex> lock(mutex_);
-        return count_;
-    }
-
-private:
-    std::mutex mutex_;
-    std::condition_variable changed_;
-    int count_ = 0;
+    void OnShareManagerDied() override { Notice(); }
 };
 
 class ShareManagerTest : public testing::Test {
