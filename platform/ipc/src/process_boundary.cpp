@@ -78,8 +78,8 @@ bool ProcessBoundary::Copy(const MessageParcel& from, MessageParcel& to)
     const auto* data = reinterpret_cast<const uint8_t*>(from.GetData());
     std::vector<uint8_t> bytes(data, data + size);
     for (const auto& [offset, carried] : from.carried_) {
-        // A record overwritten after a rewind is plain data now.
-        if (!from.HasObjectAt(offset)) {
+        // A record overwritten after a rewind is plain data now; one cut off by SetDataSize does not travel.
+        if (!from.HasObjectAt(offset) || offset + RECORD_SIZE > size) {
             continue;
         }
         MessageParcel::Carried copy{carried.kind, nullptr, INVALID_FD};

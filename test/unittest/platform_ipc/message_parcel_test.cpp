@@ -377,6 +377,26 @@ TEST(MessageParcelTest, OverlapRuleFollowsTheRecordNotTheBytes)
     EXPECT_EQ(text.size(), RECORD_SIZE - 1);
 }
 
+// A record that SetDataSize cut off does not travel, and the descriptor's number is not written past the copied
+// data (ASan sees that).
+TEST(MessageParcelTest, RecordCutBySetDataSizeDoesNotCross)
+{
+    int fds[2];
+    ASSERT_EQ(pipe(fds), 0);
+    MessageParcel sent;
+    sent.WriteInt32(7);
+    ASSERT_TRUE(sent.WriteFileDescriptor(fds[0]));
+    ASSERT_TRUE(sent.SetDataSize(4 + RECORD_SIZE / 2));
+    MessageParcel received;
+    ASSERT_TRUE(ProcessBoundary::Copy(sent, received));
+    EXPECT_EQ(received.GetDataSize(), 4 + RECORD_SIZE / 2);
+    EXPECT_EQ(received.ReadInt32(), 7);
+    EXPECT_EQ(received.ReadFileDescriptor(), INVALID_FD);
+    EXPECT_FALSE(received.ContainFileDescriptors());
+    close(fds[0]);
+    close(fds[1]);
+}
+
 class LifetimeStub : public RecordingStub {
 public:
     explicit LifetimeStub(bool& destroyed) : destroyed_(destroyed) {}
