@@ -41,35 +41,32 @@ bool ReadFile(RequestReader& reader, const char* field, TransferPayload& payload
 }
 } // namespace
 
+// The one field order of a user record, for the reader (Entry = UserEntry) and the writer (const UserEntry).
+template <typename Codec, typename Entry>
+bool TransferUserEntry(Codec& codec, Entry& user)
+{
+    return codec.String("deviceName", user.deviceName) && codec.String("norvaneIdName", user.norvaneIdName) &&
+           codec.String("avatar", user.avatar) && codec.Int32("colorId", user.colorId) &&
+           codec.Int32("eventCode", user.eventCode) && codec.Int32("stateCode", user.stateCode) &&
+           codec.Int32("percent", user.percent) && codec.Int32("speed", user.speed) &&
+           codec.Bool("isDisappeared", user.isDisappeared) && codec.Int32("deviceType", user.deviceType) &&
+           codec.String("deviceId", user.deviceId) && codec.Int32("nearbyVersion", user.nearbyVersion) &&
+           codec.Int64("lastSharedTime", user.lastSharedTime) && codec.Bool("isSameAccount", user.isSameAccount) &&
+           codec.Int32("contact.kind", user.contact.kind) && codec.String("contact.name", user.contact.name) &&
+           codec.String("contact.photo", user.contact.photo) && codec.Bool("isOHDevice", user.isOHDevice) &&
+           codec.Uint32("deviceFounder", user.deviceFounder) && codec.String("concurentId", user.concurentId) &&
+           codec.Int32("extraValue", user.extraValue);
+}
+
 bool ReadUserEntry(RequestReader& reader, UserEntry& user)
 {
-    return reader.String("deviceName", user.deviceName) && reader.String("norvaneIdName", user.norvaneIdName) &&
-           reader.String("avatar", user.avatar) && reader.Int32("colorId", user.colorId) &&
-           reader.Int32("eventCode", user.eventCode) && reader.Int32("stateCode", user.stateCode) &&
-           reader.Int32("percent", user.percent) && reader.Int32("speed", user.speed) &&
-           reader.Bool("isDisappeared", user.isDisappeared) && reader.Int32("deviceType", user.deviceType) &&
-           reader.String("deviceId", user.deviceId) && reader.Int32("nearbyVersion", user.nearbyVersion) &&
-           reader.Int64("lastSharedTime", user.lastSharedTime) && reader.Bool("isSameAccount", user.isSameAccount) &&
-           reader.Int32("contact.kind", user.contact.kind) && reader.String("contact.name", user.contact.name) &&
-           reader.String("contact.photo", user.contact.photo) && reader.Bool("isOHDevice", user.isOHDevice) &&
-           reader.Uint32("deviceFounder", user.deviceFounder) && reader.String("concurentId", user.concurentId) &&
-           reader.Int32("extraValue", user.extraValue);
+    return TransferUserEntry(reader, user);
 }
 
 bool WriteUserEntry(ReplyWriter& writer, const UserEntry& user)
 {
     writer.MakeRoom(user.avatar.size() + user.contact.photo.size());
-    return writer.String("deviceName", user.deviceName) && writer.String("norvaneIdName", user.norvaneIdName) &&
-           writer.String("avatar", user.avatar) && writer.Int32("colorId", user.colorId) &&
-           writer.Int32("eventCode", user.eventCode) && writer.Int32("stateCode", user.stateCode) &&
-           writer.Int32("percent", user.percent) && writer.Int32("speed", user.speed) &&
-           writer.Bool("isDisappeared", user.isDisappeared) && writer.Int32("deviceType", user.deviceType) &&
-           writer.String("deviceId", user.deviceId) && writer.Int32("nearbyVersion", user.nearbyVersion) &&
-           writer.Int64("lastSharedTime", user.lastSharedTime) && writer.Bool("isSameAccount", user.isSameAccount) &&
-           writer.Int32("contact.kind", user.contact.kind) && writer.String("contact.name", user.contact.name) &&
-           writer.String("contact.photo", user.contact.photo) && writer.Bool("isOHDevice", user.isOHDevice) &&
-           writer.Uint32("deviceFounder", user.deviceFounder) && writer.String("concurentId", user.concurentId) &&
-           writer.Int32("extraValue", user.extraValue);
+    return TransferUserEntry(writer, user);
 }
 
 bool WritePermanentEntry(ReplyWriter& writer, const PermanentEntry& entry)
