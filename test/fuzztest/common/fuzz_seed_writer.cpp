@@ -64,18 +64,6 @@ ShareDeviceInfo NamedDevice(const std::string& name)
     return device;
 }
 
-ShareAccountInfo FilledAccount()
-{
-    ShareAccountInfo account;
-    account.norvaneAccountID = "1234567890";
-    account.norvaneAccountIDHash = "5FECEB66FFC86F";
-    account.status = 1;
-    account.callingUid = 20010042;
-    account.nickName = "Ada";
-    account.avatar = std::string(100, 'z');
-    return account;
-}
-
 bool WritePermanentDevice(MessageParcel& p, int32_t id, const std::string& name)
 {
     return p.WriteInt32(id) && p.WriteString(name) && p.WriteInt32(12) && p.WriteString("udid-77") &&

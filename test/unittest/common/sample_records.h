@@ -1,12 +1,13 @@
 /*
  * Records with every field set, shared by the unit tests, the benchmarks and the fuzzers' seed corpora. The values
- * are those of the device's recorded "device_filled" parcel.
+ * are those of the device's recorded parcels.
  */
 #ifndef SAMPLE_RECORDS_H
 #define SAMPLE_RECORDS_H
 
 #include <string>
 
+#include "share_account_info.h"
 #include "share_device_info.h"
 
 namespace OHOS {
@@ -46,6 +47,20 @@ inline ShareDeviceInfo FilledDeviceWithLargeAvatar()
     ShareDeviceInfo device = FilledDevice();
     device.avatar = std::string(avatarSize, 'A');
     return device;
+}
+
+// The device's recorded "account_filled" case.
+inline ShareAccountInfo FilledAccount()
+{
+    constexpr size_t avatarSize = 5000;
+    ShareAccountInfo account;
+    account.norvaneAccountID = "1234567890";
+    account.norvaneAccountIDHash = "5FECEB66FFC86F";
+    account.status = 1;
+    account.callingUid = 20010042;
+    account.nickName = "Ada";
+    account.avatar = std::string(avatarSize, 'z');
+    return account;
 }
 
 } // namespace Zelkon

@@ -33,18 +33,6 @@ std::function<bool(Parcel&)> Writer(std::function<void(Record&)> init)
     };
 }
 
-ShareAccountInfo GoldenFilledAccount()
-{
-    ShareAccountInfo account;
-    account.norvaneAccountID = "1234567890";
-    account.norvaneAccountIDHash = "5FECEB66FFC86F";
-    account.status = 1;
-    account.callingUid = 20010042;
-    account.nickName = "Ada";
-    account.avatar = std::string(5000, 'z');
-    return account;
-}
-
 const std::vector<GoldenWriteCase>& WriteCases()
 {
     static const std::vector<GoldenWriteCase> cases = {
@@ -67,7 +55,7 @@ const std::vector<GoldenWriteCase>& WriteCases()
         {"device_huge_name", 0,
          Writer<ShareDeviceInfo>([](ShareDeviceInfo& r) { r.deviceName = std::string(250 * 1024, 'n'); })},
         {"account_default", 0, Writer<ShareAccountInfo>([](ShareAccountInfo&) {})},
-        {"account_filled", 0, Writer<ShareAccountInfo>([](ShareAccountInfo& r) { r = GoldenFilledAccount(); })},
+        {"account_filled", 0, Writer<ShareAccountInfo>([](ShareAccountInfo& r) { r = FilledAccount(); })},
         {"account_huge_avatar", 0, Writer<ShareAccountInfo>([](ShareAccountInfo& r) {
              r.nickName = "big";
              r.avatar = std::string(300 * 1024, 'z');
@@ -128,7 +116,7 @@ TEST(GoldenRecordTest, ReadsTheRecordedAccountBack)
     bool ok = false;
     ShareAccountInfo account = ReadGolden<ShareAccountInfo>("account_filled", ok);
     ASSERT_TRUE(ok);
-    const ShareAccountInfo expected = GoldenFilledAccount();
+    const ShareAccountInfo expected = FilledAccount();
     EXPECT_EQ(account.norvaneAccountID, expected.norvaneAccountID);
     EXPECT_EQ(account.norvaneAccountIDHash, expected.norvaneAccountIDHash);
     EXPECT_EQ(account.status, expected.status);

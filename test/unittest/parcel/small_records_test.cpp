@@ -19,7 +19,7 @@ namespace {
 
 using HiviewDFX::ScopedLogCapture;
 
-ShareAccountInfo FilledAccount()
+ShareAccountInfo BoundaryAccount()
 {
     ShareAccountInfo account;
     account.norvaneAccountID = "1234567890";
@@ -57,7 +57,7 @@ TEST(ShareAccountInfoTest, DefaultsToNoAccountAndRoundTrips)
     EXPECT_EQ(empty.status, 0);
     EXPECT_EQ(empty.callingUid, -1);
 
-    for (const ShareAccountInfo& account : {empty, FilledAccount()}) {
+    for (const ShareAccountInfo& account : {empty, BoundaryAccount()}) {
         MessageParcel parcel;
         ASSERT_TRUE(account.WriteToParcel(parcel));
         ShareAccountInfo read;
@@ -75,7 +75,7 @@ TEST(ShareAccountInfoTest, DefaultsToNoAccountAndRoundTrips)
 TEST(ShareAccountInfoTest, LogsTheFieldWhereAReplyEnds)
 {
     MessageParcel full;
-    ASSERT_TRUE(FilledAccount().WriteToParcel(full));
+    ASSERT_TRUE(BoundaryAccount().WriteToParcel(full));
     const std::vector<uint8_t> bytes = BytesOf(full);
     for (const AccountField& field : ACCOUNT_FIELDS) {
         SCOPED_TRACE(field.readFailure);
@@ -99,7 +99,7 @@ TEST(ShareAccountInfoTest, LogsTheFieldWhereAReplyEnds)
 
 TEST(ShareAccountInfoTest, LogsTheFieldThatDoesNotFitAndNeverRaisesTheLimit)
 {
-    const ShareAccountInfo account = FilledAccount();
+    const ShareAccountInfo account = BoundaryAccount();
     for (const AccountField& field : ACCOUNT_FIELDS) {
         SCOPED_TRACE(field.writeFailure);
         MessageParcel parcel;
