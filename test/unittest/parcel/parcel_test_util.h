@@ -11,30 +11,12 @@
 
 #include "hilog/log_capture.h"
 #include "message_parcel.h"
+#include "parcel_bytes.h"
 #include "sample_records.h"
 #include "share_device_info.h"
 
 namespace OHOS {
 namespace Zelkon {
-
-inline std::vector<uint8_t> BytesOf(const Parcel& parcel, size_t from = 0)
-{
-    const auto* data = reinterpret_cast<const uint8_t*>(parcel.GetData());
-    if (data == nullptr || from >= parcel.GetDataSize()) {
-        return {};
-    }
-    return std::vector<uint8_t>(data + from, data + parcel.GetDataSize());
-}
-
-// Puts exactly the first length bytes into the parcel (WriteBuffer pads, so the padding is cut off again).
-inline void LoadBytes(Parcel& parcel, const std::vector<uint8_t>& bytes, size_t length)
-{
-    if (length == 0) {
-        return;
-    }
-    parcel.WriteBuffer(bytes.data(), length);
-    parcel.RewindWrite(length);
-}
 
 // Fills the parcel with zero bytes so that exactly room bytes (a multiple of 4) still fit under its limit.
 inline void FillLeaving(Parcel& parcel, size_t room)

@@ -1,6 +1,6 @@
 /*
  * Building blocks of the ipc and samgr tests: a stub that records what reaches it, a death recipient that
- * counts its notices, and access to a parcel's bytes.
+ * counts its notices.
  */
 #ifndef IPC_TEST_HELPERS_H
 #define IPC_TEST_HELPERS_H
@@ -15,14 +15,9 @@
 #include "ipc_object_stub.h"
 #include "ipc_threads.h"
 #include "message_parcel.h"
+#include "parcel_bytes.h"
 
 namespace OHOS {
-
-inline std::vector<uint8_t> BytesOf(const Parcel& parcel)
-{
-    const auto* data = reinterpret_cast<const uint8_t*>(parcel.GetData());
-    return std::vector<uint8_t>(data, data + parcel.GetDataSize());
-}
 
 class RecordingStub : public IPCObjectStub {
 public:

@@ -1,0 +1,46 @@
+/*
+ * Byte-level access to a parcel for tests: what it holds, and a parcel made to hold exactly some bytes (any length,
+ * not only whole words).
+ */
+#ifndef PARCEL_BYTES_H
+#define PARCEL_BYTES_H
+
+#include <cstdint>
+#include <vector>
+
+#include "parcel.h"
+
+namespace OHOS {
+
+inline std::vector<uint8_t> BytesOf(const Parcel& parcel, size_t from = 0)
+{
+    const auto* data = reinterpret_cast<const uint8_t*>(parcel.GetData());
+    if (data == nullptr || from >= parcel.GetDataSize()) {
+        return {};
+    }
+    return std::vector<uint8_t>(data + from, data + parcel.GetDataSize());
+}
+
+// Puts exactly the first length bytes into the parcel: WriteBuffer pads to a word, so the padding is cut off again.
+// The read position stays at 0.
+inline void LoadBytes(Parcel& parcel, const std::vector<uint8_t>& bytes, size_t length)
+{
+    if (length == 0) {
+        return;
+    }
+    const size_t padded = (length + 3) / 4 * 4;
+    if (padded > parcel.GetMaxCapacity()) {
+        parcel.SetMaxCapacity(padded);
+    }
+    parcel.WriteBuffer(bytes.data(), length);
+    parcel.RewindWrite(length);
+}
+
+inline void LoadBytes(Parcel& parcel, const std::vector<uint8_t>& bytes)
+{
+    LoadBytes(parcel, bytes, bytes.size());
+}
+
+} // namespace OHOS
+
+#endif // PARCEL_BYTES_H
