@@ -136,16 +136,6 @@ TEST_F(EmulatorStateTest, RemovedPermanentDeviceIsGoneAndCannotBeRemovedTwice)
     EXPECT_EQ(PermanentIds(), (std::set<int32_t>{1, 3}));
 }
 
-TEST_F(EmulatorStateTest, RestartedShareServiceStartsFromItsInitialState)
-{
-    ASSERT_TRUE(RemovePermanent(1));
-    ASSERT_TRUE(ShareEmulator::KillShareService());
-    shareService_ = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager()->LoadSystemAbility(
-        EMULATED_SHARE_SERVICE_ID, LOAD_TIMEOUT_SECONDS);
-    ASSERT_NE(shareService_, nullptr);
-    EXPECT_EQ(PermanentIds(), (std::set<int32_t>{1, 2, 3}));
-}
-
 TEST_F(EmulatorStateTest, ListenerIsKnownFromPublishUntilUnpublish)
 {
     sptr<IRemoteObject> listener = new TestListener();
@@ -154,17 +144,6 @@ TEST_F(EmulatorStateTest, ListenerIsKnownFromPublishUntilUnpublish)
     EXPECT_FALSE(ListenerRequest(PUBLISH, listener));
     EXPECT_TRUE(ListenerRequest(UNPUBLISH, listener, true));
     EXPECT_FALSE(ListenerRequest(UNPUBLISH, listener, true));
-}
-
-TEST_F(EmulatorStateTest, FoundDevicesCountOnlyFromSubscribers)
-{
-    sptr<IRemoteObject> listener = new TestListener();
-    EXPECT_FALSE(DeviceFound(listener, "dev-7"));
-    EXPECT_FALSE(ClearFlag("dev-7"));
-    ASSERT_TRUE(ListenerRequest(SUBSCRIBE, listener));
-    EXPECT_TRUE(DeviceFound(listener, "dev-7"));
-    EXPECT_TRUE(ClearFlag("dev-7"));
-    EXPECT_FALSE(ClearFlag("dev-8"));
 }
 
 TEST_F(EmulatorStateTest, TransferAnswersWithASenderThatCancelStops)
@@ -242,18 +221,6 @@ TEST_F(EmulatorStateTest, SwitchChangesOnlyWithConfirmation)
     stateData.WriteInterfaceToken(SHARE_MANAGER_TOKEN);
     ASSERT_EQ(Send(shareManager_, GET_ENABLE_STATE, stateData, stateReply), 0);
     EXPECT_EQ(stateReply.ReadInt32(), 5);
-}
-
-TEST_F(EmulatorStateTest, SendingListFollowsPrepareSendAndCancel)
-{
-    EXPECT_FALSE(ManagerDeviceRequest(SEND_BYTES_TO_USER, "dev-1002-tablet", true)); // not prepared
-    EXPECT_FALSE(ManagerDeviceRequest(PREPARE_SEND, "dev-unknown"));
-    EXPECT_TRUE(ManagerDeviceRequest(PREPARE_SEND, "dev-1002-tablet"));
-    EXPECT_TRUE(ManagerDeviceRequest(SEND_BYTES_TO_USER, "dev-1002-tablet", true));
-    EXPECT_EQ(SendingUsers(), 1);
-    EXPECT_TRUE(ManagerDeviceRequest(CANCEL_USER, "dev-1002-tablet"));
-    EXPECT_EQ(SendingUsers(), 0);
-    EXPECT_FALSE(ManagerDeviceRequest(CANCEL_USER, "dev-1002-tablet"));
 }
 
 TEST_F(EmulatorStateTest, PreviewDataTravelsAsABigStringInSharedMemory)

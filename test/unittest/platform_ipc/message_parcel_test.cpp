@@ -87,13 +87,6 @@ TEST(MessageParcelTest, InterfaceTokenRollsBackWhenTheSecondWordDoesNotFit)
     EXPECT_EQ(parcel.GetDataSize(), DEFAULT_MAX_CAPACITY - 4);
 }
 
-TEST(MessageParcelTest, ReadInterfaceTokenOfAShortParcelIsEmpty)
-{
-    MessageParcel parcel;
-    parcel.WriteInt32(0x100);
-    EXPECT_EQ(parcel.ReadInterfaceToken(), u"");
-}
-
 TEST(MessageParcelTest, RawDataRoundTripsInlineAndThroughSharedMemory)
 {
     const struct {
@@ -120,15 +113,6 @@ TEST(MessageParcelTest, RawDataRoundTripsInlineAndThroughSharedMemory)
     }
 }
 
-TEST(MessageParcelTest, InlineRawDataIsZeroPadded)
-{
-    MessageParcel parcel;
-    ASSERT_TRUE(parcel.WriteRawData("ab", 3));
-    std::vector<uint8_t> expected = Word(3);
-    expected.insert(expected.end(), {'a', 'b', 0, 0});
-    EXPECT_EQ(BytesOf(parcel), expected);
-}
-
 TEST(MessageParcelTest, RawDataRefusesBadArgumentsWithoutWriting)
 {
     const char byte = 'x';
@@ -141,22 +125,6 @@ TEST(MessageParcelTest, RawDataRefusesBadArgumentsWithoutWriting)
         EXPECT_FALSE(parcel.WriteRawData(c.data, c.size)) << c.size;
         EXPECT_EQ(parcel.GetDataSize(), 0u) << c.size;
     }
-}
-
-TEST(MessageParcelTest, OnlyOneSharedMemoryBlockPerParcel)
-{
-    const std::vector<uint8_t> big = Pattern(40000);
-    MessageParcel parcel;
-    ASSERT_TRUE(parcel.WriteRawData(big.data(), big.size()));
-    const size_t size = parcel.GetDataSize();
-    EXPECT_FALSE(parcel.WriteRawData(big.data(), big.size()));
-    EXPECT_FALSE(parcel.WriteRawData(big.data(), 4));
-    EXPECT_EQ(parcel.GetDataSize(), size);
-
-    MessageParcel inlineFirst;
-    ASSERT_TRUE(inlineFirst.WriteRawData(big.data(), 100));
-    EXPECT_TRUE(inlineFirst.WriteRawData(big.data(), 200));
-    EXPECT_TRUE(inlineFirst.WriteRawData(big.data(), big.size()));
 }
 
 TEST(MessageParcelTest, ReadRawDataChecksTheWrittenSize)
@@ -418,14 +386,6 @@ TEST(MessageParcelTest, ParcelKeepsItsObjectsAlive)
         EXPECT_FALSE(destroyed);
     }
     EXPECT_TRUE(destroyed);
-}
-
-TEST(MessageParcelTest, ExceptionWordIsZero)
-{
-    MessageParcel parcel;
-    ASSERT_TRUE(parcel.WriteNoException());
-    EXPECT_EQ(BytesOf(parcel), Word(0));
-    EXPECT_EQ(parcel.ReadException(), 0);
 }
 
 } // namespace

@@ -48,18 +48,6 @@ TEST_F(RemoteObjectTest, StubAnswersOnTheCallersThreadWithTheSameParcels)
     EXPECT_EQ(stub->RequestParcel(), &data);
 }
 
-TEST_F(RemoteObjectTest, BareStubAnswersUnknownTransaction)
-{
-    sptr<IPCObjectStub> stub = new IPCObjectStub(u"test.Bare");
-    MessageParcel data;
-    MessageParcel reply;
-    MessageOption option;
-    EXPECT_EQ(stub->SendRequest(CODE, data, reply, option), IPC_STUB_UNKNOW_TRANS_ERR);
-    sptr<IRemoteObject::DeathRecipient> recipient = new CountingRecipient();
-    EXPECT_FALSE(stub->AddDeathRecipient(recipient));
-    EXPECT_FALSE(stub->RemoveDeathRecipient(recipient));
-}
-
 TEST_F(RemoteObjectTest, RequestAndReplyCrossTheBoundaryIntact)
 {
     std::vector<uint8_t> replyBytes;
@@ -117,24 +105,6 @@ TEST_F(RemoteObjectTest, FailedRequestComesBackWithItsCodeAndAnEmptyReply)
     MessageParcel reply;
     EXPECT_EQ(Send(data, reply), ERR_INVALID_DATA);
     EXPECT_EQ(reply.GetDataSize(), 0u);
-}
-
-TEST_F(RemoteObjectTest, CodesAboveTheTransactionRangeAreRefused)
-{
-    Connect();
-    const struct {
-        uint32_t code;
-        int result;
-    } cases[] = {{FIRST_CALL_TRANSACTION, ERR_NONE},
-                 {LAST_CALL_TRANSACTION, ERR_NONE},
-                 {LAST_CALL_TRANSACTION + 1, IPC_PROXY_INVALID_CODE_ERR},
-                 {0xFFFFFFFF, IPC_PROXY_INVALID_CODE_ERR}};
-    for (const auto& c : cases) {
-        MessageParcel data;
-        MessageParcel reply;
-        EXPECT_EQ(Send(data, reply, c.code), c.result) << c.code;
-    }
-    EXPECT_EQ(stub_->Codes(), std::vector<uint32_t>({FIRST_CALL_TRANSACTION, LAST_CALL_TRANSACTION}));
 }
 
 TEST_F(RemoteObjectTest, RequestAboveTheDefaultCapacityArrivesWhole)
@@ -271,18 +241,6 @@ TEST_F(RemoteObjectTest, DeadObjectRefusesRequestsAndTellsEachRecipientOnce)
     EXPECT_TRUE(stub_->Codes().empty());
 }
 
-TEST_F(RemoteObjectTest, DuplicateRegistrationsAreEachTold)
-{
-    Connect();
-    sptr<CountingRecipient> recipient = new CountingRecipient();
-    ASSERT_TRUE(remote_->AddDeathRecipient(recipient));
-    ASSERT_TRUE(remote_->AddDeathRecipient(recipient));
-    remote_->Kill();
-    recipient->WaitForCalls(2);
-    IpcThreads::Drain();
-    EXPECT_EQ(recipient->Calls(), 2);
-}
-
 TEST_F(RemoteObjectTest, RemovedRecipientIsNotTold)
 {
     Connect();
@@ -296,24 +254,6 @@ TEST_F(RemoteObjectTest, RemovedRecipientIsNotTold)
     kept->WaitForCalls(1);
     IpcThreads::Drain();
     EXPECT_EQ(removed->Calls(), 0);
-}
-
-TEST_F(RemoteObjectTest, RecipientRegistrationRules)
-{
-    Connect();
-    sptr<CountingRecipient> recipient = new CountingRecipient();
-    EXPECT_FALSE(remote_->AddDeathRecipient(nullptr));
-    EXPECT_FALSE(remote_->RemoveDeathRecipient(nullptr));
-    EXPECT_FALSE(remote_->RemoveDeathRecipient(recipient));
-
-    remote_->RefuseDeathRecipients(true);
-    EXPECT_FALSE(remote_->AddDeathRecipient(recipient));
-    remote_->RefuseDeathRecipients(false);
-    EXPECT_TRUE(remote_->AddDeathRecipient(recipient));
-
-    remote_->Kill();
-    EXPECT_FALSE(remote_->AddDeathRecipient(recipient));
-    EXPECT_FALSE(remote_->RemoveDeathRecipient(recipient));
 }
 
 TEST_F(RemoteObjectTest, KilledForwarderIsReplacedForTheNextCrossing)

@@ -124,14 +124,6 @@ TEST_F(SamgrTest, AddedAbilityIsOneRemoteObjectForEveryCaller)
     EXPECT_EQ(stub_->Codes(), std::vector<uint32_t>({5}));
 }
 
-TEST_F(SamgrTest, AddRefusesBadIdsAndNullObjects)
-{
-    EXPECT_EQ(manager_->AddSystemAbility(0, stub_), ERR_INVALID_VALUE);
-    EXPECT_EQ(manager_->AddSystemAbility(0x01000000, stub_), ERR_INVALID_VALUE);
-    EXPECT_EQ(manager_->AddSystemAbility(SA_ID, nullptr), ERR_INVALID_VALUE);
-    EXPECT_EQ(manager_->CheckSystemAbility(SA_ID), nullptr);
-}
-
 TEST_F(SamgrTest, RemovedAbilityIsAbsent)
 {
     ASSERT_EQ(manager_->AddSystemAbility(SA_ID, stub_), ERR_OK);
@@ -234,15 +226,6 @@ TEST_F(SamgrTest, RefusedLoadReturnsTheScriptedCodeWithoutCallback)
     EXPECT_TRUE(LoadAndWait(SA_ID)->success_);
 }
 
-TEST_F(SamgrTest, BadLoadRequestsAreRefused)
-{
-    sptr<LoadOutcome> outcome = new LoadOutcome();
-    EXPECT_EQ(manager_->LoadSystemAbility(SA_ID, nullptr), ERR_INVALID_VALUE);
-    EXPECT_EQ(outcome->Load(manager_, -3), ERR_INVALID_VALUE);
-    IpcThreads::Drain();
-    EXPECT_EQ(outcome->calls_, 0);
-}
-
 TEST_F(SamgrTest, DelayedLoadArrivesAfterTheDelay)
 {
     ASSERT_EQ(manager_->AddSystemAbility(SA_ID, stub_), ERR_OK);
@@ -252,36 +235,6 @@ TEST_F(SamgrTest, DelayedLoadArrivesAfterTheDelay)
     sptr<LoadOutcome> outcome = LoadAndWait(SA_ID);
     EXPECT_TRUE(outcome->success_);
     EXPECT_GE(outcome->at_ - start, delay);
-}
-
-TEST_F(SamgrTest, ResetWaitsForPendingLoads)
-{
-    ASSERT_EQ(manager_->AddSystemAbility(SA_ID, stub_), ERR_OK);
-    SamgrHostControl::ScriptLoads({LoadScript::Outcome::SUCCEED, std::chrono::milliseconds(30)});
-    sptr<LoadOutcome> outcome = new LoadOutcome();
-    ASSERT_EQ(outcome->Load(manager_, SA_ID), ERR_OK);
-    SamgrHostControl::Reset();
-    EXPECT_EQ(outcome->calls_, 1);
-    EXPECT_EQ(manager_->CheckSystemAbility(SA_ID), nullptr);
-    EXPECT_EQ(SamgrHostControl::LookupCount(SA_ID), 1);
-}
-
-TEST_F(SamgrTest, ResetClearsFaultsAndCounts)
-{
-    SamgrHostControl::SetManagerUnavailable(true);
-    SamgrHostControl::SetDeathRecipientsRefused(true);
-    SamgrHostControl::ScriptLoads({LoadScript::Outcome::FAIL}, 3);
-    SamgrHostControl::RegisterLoader(SA_ID, [this] { return sptr<IRemoteObject>(stub_); });
-    manager_->CheckSystemAbility(SA_ID);
-    SamgrHostControl::Reset();
-
-    EXPECT_NE(SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager(), nullptr);
-    EXPECT_EQ(SamgrHostControl::LookupCount(SA_ID), 0);
-    EXPECT_FALSE(LoadAndWait(SA_ID)->success_); // no loader any more
-    ASSERT_EQ(manager_->AddSystemAbility(SA_ID, stub_), ERR_OK);
-    EXPECT_TRUE(LoadAndWait(SA_ID)->success_); // no script any more
-    sptr<CountingRecipient> recipient = new CountingRecipient();
-    EXPECT_TRUE(manager_->CheckSystemAbility(SA_ID)->AddDeathRecipient(recipient));
 }
 
 TEST_F(SamgrTest, UnavailableManagerIsNull)
@@ -330,15 +283,6 @@ TEST_F(SamgrTest, KilledAbilityIsDeadAbsentAndLoadableAgain)
     ASSERT_NE(after, nullptr);
     EXPECT_NE(after, before);
     EXPECT_FALSE(after->IsObjectDead());
-}
-
-TEST_F(SamgrTest, SynchronousLoadWaitsForTheAbility)
-{
-    SamgrHostControl::RegisterLoader(SA_ID, [this] { return sptr<IRemoteObject>(stub_); });
-    sptr<IRemoteObject> object = manager_->LoadSystemAbility(SA_ID, 5);
-    ASSERT_NE(object, nullptr);
-    EXPECT_EQ(object, manager_->CheckSystemAbility(SA_ID));
-    EXPECT_EQ(manager_->LoadSystemAbility(UNKNOWN_ID, 5), nullptr);
 }
 
 } // namespace

@@ -101,29 +101,6 @@ TEST_F(HiLogTest, AnEntryCarriesTypeLevelDomainAndTag)
     EXPECT_EQ(lines[1].text, "macro 3");
 }
 
-TEST_F(HiLogTest, TheCppInterfaceLogsAtEachLevel)
-{
-    const HiLogLabel label = {LOG_CORE, TEST_DOMAIN, "Cpp"};
-    const struct {
-        std::function<int()> log;
-        LogLevel level;
-    } cases[] = {
-        {[&label] { return HiLog::Debug(label, "%{public}s", "m"); }, LOG_DEBUG},
-        {[&label] { return HiLog::Info(label, "%{public}s", "m"); }, LOG_INFO},
-        {[&label] { return HiLog::Warn(label, "%{public}s", "m"); }, LOG_WARN},
-        {[&label] { return HiLog::Error(label, "%{public}s", "m"); }, LOG_ERROR},
-        {[&label] { return HiLog::Fatal(label, "%{public}s", "m"); }, LOG_FATAL},
-    };
-    HiLogSetThreshold(LOG_LEVEL_MAX);
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.level);
-        ScopedLogCapture capture;
-        EXPECT_EQ(c.log(), 1);
-        EXPECT_EQ(capture.Count("Cpp", "m", c.level), 1u);
-        EXPECT_EQ(capture.Lines().size(), 1u);
-    }
-}
-
 TEST_F(HiLogTest, TheThresholdDecidesTheConsoleWhileSinksGetEveryLine)
 {
     const struct {
@@ -185,24 +162,6 @@ TEST_F(HiLogTest, OnlyApplicationLinesOrCoreDomainsWithATagAreAccepted)
     }
 }
 
-TEST_F(HiLogTest, ANullFormatIsDropped)
-{
-    ScopedLogCapture capture;
-    EXPECT_LT(HiLogPrint(LOG_CORE, LOG_ERROR, TEST_DOMAIN, "Null", nullptr), 0);
-    EXPECT_TRUE(capture.Lines().empty());
-}
-
-TEST_F(HiLogTest, LongMessagesAreCutTo4095Characters)
-{
-    HiLogSetThreshold(LOG_LEVEL_MAX);
-    ScopedLogCapture capture;
-    const std::string longText(5000, 'a');
-    EXPECT_EQ(LogInfo("%s", longText.c_str()), 4095);
-    const std::vector<LogEntry> lines = capture.Lines();
-    ASSERT_EQ(lines.size(), 1u);
-    EXPECT_EQ(lines[0].text, longText.substr(0, 4095));
-}
-
 TEST_F(HiLogTest, EverySinkGetsTheLineUntilRemoved)
 {
     HiLogSetThreshold(LOG_FATAL);
@@ -226,53 +185,6 @@ TEST_F(HiLogTest, EverySinkGetsTheLineUntilRemoved)
     EXPECT_LT(LogInfo("no listener left"), 0);
 }
 
-TEST_F(HiLogTest, CaptureCountsLinesByTagTextEndAndLevel)
-{
-    ScopedLogCapture capture;
-    HiLogPrint(LOG_CORE, LOG_INFO, TEST_DOMAIN, "A", "[f.cpp:1] Fn# done");
-    HiLogPrint(LOG_CORE, LOG_WARN, TEST_DOMAIN, "A", "[f.cpp:2] Other# done");
-    HiLogPrint(LOG_CORE, LOG_INFO, TEST_DOMAIN, "B", "done");
-    const struct {
-        std::string tag;
-        std::string textEnd;
-        size_t count;
-    } cases[] = {
-        {"A", "done", 2}, {"A", "Fn# done", 1}, {"A", "", 2},      {"B", "done", 1},
-        {"A", "don", 0},  {"C", "done", 0},     {"B", "xdone", 0},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.tag + " " + c.textEnd);
-        EXPECT_EQ(capture.Count(c.tag, c.textEnd), c.count);
-        EXPECT_EQ(capture.Contains(c.tag, c.textEnd), c.count > 0);
-    }
-    EXPECT_EQ(capture.Count("A", "done", LOG_WARN), 1u);
-    EXPECT_EQ(capture.Count("A", "done", LOG_ERROR), 0u);
-    capture.Clear();
-    EXPECT_TRUE(capture.Lines().empty());
-    EXPECT_EQ(capture.Count("A", "done"), 0u);
-    HiLogPrint(LOG_CORE, LOG_INFO, TEST_DOMAIN, "A", "after");
-    EXPECT_EQ(capture.Lines().size(), 1u);
-}
-
-std::vector<std::string> g_callbackLines;
-
-void RecordCallback(const LogType, const LogLevel level, const unsigned int domain, const char* tag, const char* msg)
-{
-    g_callbackLines.push_back(std::to_string(level) + " " + std::to_string(domain) + " " + tag + " " + msg);
-}
-
-TEST_F(HiLogTest, TheCallbackGetsFormattedLinesUntilCleared)
-{
-    g_callbackLines.clear();
-    HiLogSetThreshold(LOG_FATAL);
-    LOG_SetCallback(RecordCallback);
-    LOG_SetCallback(RecordCallback);
-    EXPECT_GE(HiLogPrint(LOG_CORE, LOG_DEBUG, TEST_DOMAIN, "Cb", "%{public}s=%d", "n", 4), 0);
-    LOG_SetCallback(nullptr);
-    EXPECT_LT(HiLogPrint(LOG_CORE, LOG_DEBUG, TEST_DOMAIN, "Cb", "after"), 0);
-    EXPECT_EQ(g_callbackLines, std::vector<std::string>({"3 " + std::to_string(TEST_DOMAIN) + " Cb n=4"}));
-}
-
 std::string ConsoleLine(LogType type, LogLevel level, unsigned int domain)
 {
     testing::internal::CaptureStderr();
@@ -288,29 +200,6 @@ TEST_F(HiLogTest, TheConsoleLineHasTimePidTidLevelDomainTagAndText)
         "E C04612/Console: hello 7\n");
     EXPECT_TRUE(std::regex_match(ConsoleLine(LOG_CORE, LOG_ERROR, 0xD004612), line))
         << ConsoleLine(LOG_CORE, LOG_ERROR, 0xD004612);
-}
-
-TEST_F(HiLogTest, TheConsoleLineNamesLevelAndTypeByLetter)
-{
-    const struct {
-        LogType type;
-        LogLevel level;
-        unsigned int domain;
-        std::string marks;
-    } cases[] = {
-        {LOG_CORE, LOG_DEBUG, 0xD000001, " D C00001/"},
-        {LOG_CORE, LOG_INFO, 0xD0ABCDE, " I CABCDE/"},
-        {LOG_APP, LOG_WARN, 0, " W A00000/"},
-        {LOG_APP, LOG_ERROR, 0xFF, " E A000FF/"},
-        {LOG_INIT, LOG_FATAL, 0xD000002, " F I00002/"},
-        {LOG_KMSG, LOG_INFO, 0xD000003, " I K00003/"},
-        {LOG_ONLY_PRERELEASE, LOG_INFO, 0xD000004, " I P00004/"},
-    };
-    HiLogSetThreshold(LOG_DEBUG);
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.marks);
-        EXPECT_NE(ConsoleLine(c.type, c.level, c.domain).find(c.marks + "Console: hello 7\n"), std::string::npos);
-    }
 }
 
 } // namespace

@@ -190,16 +190,6 @@ TEST(ParcelReadTest, StringsCarryEmbeddedZeros)
     EXPECT_EQ(parcel.GetReadableBytes(), 0u);
 }
 
-TEST(ParcelReadTest, String16BodyNeedNotBeAlignedForItsUnits)
-{
-    Parcel parcel;
-    LoadBytes(parcel, BytesFromHex("ff02000000610062000000"));
-    ASSERT_NE(parcel.ReadBuffer(1), nullptr);
-    std::u16string value;
-    EXPECT_TRUE(parcel.ReadString16(value));
-    EXPECT_EQ(value, u"ab");
-}
-
 TEST(ParcelReadTest, BuffersAreReadInPlaceAndUnpaddedReadsSkipThePad)
 {
     Parcel parcel;
@@ -223,35 +213,6 @@ TEST(ParcelReadTest, BuffersAreReadInPlaceAndUnpaddedReadsSkipThePad)
     ASSERT_TRUE(parcel.RewindRead(0));
     EXPECT_NE(parcel.ReadUnpadBuffer(5), nullptr);
     EXPECT_EQ(parcel.GetReadPosition(), 5u);
-}
-
-TEST(ParcelReadTest, CStringsNeedTheirTerminator)
-{
-    const struct {
-        std::string name;
-        std::string hex;
-        const char* expected;
-        size_t position;
-    } cases[] = {
-        {"padded", "6162630000000000", "abc", 4},
-        {"one word with the terminator last", "61626300", "abc", 4},
-        {"empty", "00000000", "", 4},
-        {"no terminator", "61626364", nullptr, 0},
-        {"nothing", "", nullptr, 0},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        Parcel parcel;
-        LoadBytes(parcel, BytesFromHex(c.hex));
-        const char* read = parcel.ReadCString();
-        if (c.expected == nullptr) {
-            EXPECT_EQ(read, nullptr);
-        } else {
-            ASSERT_NE(read, nullptr);
-            EXPECT_STREQ(read, c.expected);
-        }
-        EXPECT_EQ(parcel.GetReadPosition(), c.position);
-    }
 }
 
 } // namespace

@@ -76,31 +76,6 @@ TEST(ParcelableTest, WriteStrongParcelableMarksTheObjectHeld)
     EXPECT_EQ(object->GetSptrRefCount(), 1);
 }
 
-TEST(ParcelableTest, StrongNullIsReportedWrittenEvenWhenItDoesNotFit)
-{
-    Parcel roomy;
-    EXPECT_TRUE(roomy.WriteStrongParcelable(nullptr));
-    EXPECT_EQ(BytesOf(roomy), BytesFromHex("00000000"));
-
-    Parcel full;
-    const std::vector<uint8_t> filler(full.GetMaxCapacity(), 0);
-    ASSERT_TRUE(full.WriteBuffer(filler.data(), filler.size()));
-    EXPECT_TRUE(full.WriteStrongParcelable(nullptr));
-    EXPECT_EQ(full.GetDataSize(), full.GetMaxCapacity());
-}
-
-TEST(ParcelableTest, BehaviorFlagsAreIndependent)
-{
-    const Sample object(1);
-    object.SetBehavior(Parcelable::IPC);
-    object.SetBehavior(Parcelable::HOLD_OBJECT);
-    object.ClearBehavior(Parcelable::IPC);
-    EXPECT_FALSE(object.TestBehavior(Parcelable::IPC));
-    EXPECT_FALSE(object.TestBehavior(Parcelable::RPC));
-    EXPECT_TRUE(object.TestBehavior(Parcelable::HOLD_OBJECT));
-    EXPECT_EQ(object.behavior_, Parcelable::HOLD_OBJECT);
-}
-
 TEST(ParcelableTest, ReadingBackNeedsANonZeroPresenceWord)
 {
     const struct {

@@ -1,5 +1,5 @@
-// Races on the platform utilities: promotion against the last release, strong and weak copies from many threads,
-// the first use of a singleton, and logging while sinks come and go. Run under ThreadSanitizer by its label.
+// Races on the platform utilities: promotion against the last release and the first use of a singleton. Run under
+// ThreadSanitizer by its label.
 #include <gtest/gtest.h>
 
 #include <atomic>
@@ -11,8 +11,6 @@
 #include <type_traits>
 #include <vector>
 
-#include "hilog/log.h"
-#include "hilog/log_capture.h"
 #include "refbase.h"
 #include "singleton.h"
 #include "tracked_object.h"
@@ -118,30 +116,6 @@ TEST(PlatformUtilsConcurrencyTest, PromotionRacingTheLastReleaseNeverRevivesTheO
     EXPECT_EQ(revived.load(), 0);
 }
 
-TEST(PlatformUtilsConcurrencyTest, StrongAndWeakCopiesFromManyThreadsBalance)
-{
-    constexpr int THREADS = 4;
-    constexpr int COPIES = 2000;
-    Lifecycle lifecycle;
-    sptr<TrackedObject> shared = sptr<TrackedObject>::MakeSptr(lifecycle);
-    const wptr<TrackedObject> weak(shared);
-    RunTogether(THREADS, [&](int) {
-        for (int i = 0; i < COPIES; ++i) {
-            sptr<TrackedObject> copy(shared);
-            wptr<TrackedObject> weakCopy(copy);
-            sptr<TrackedObject> moved(std::move(copy));
-            sptr<TrackedObject> promoted = weak.promote();
-            ASSERT_NE(promoted, nullptr);
-        }
-    });
-    EXPECT_EQ(shared->GetSptrRefCount(), 1);
-    EXPECT_EQ(shared->GetWptrRefCount(), 1);
-    EXPECT_EQ(lifecycle.lastStrong.load(), 0);
-    shared.clear();
-    EXPECT_EQ(lifecycle.destroyed.load(), 1);
-    EXPECT_EQ(lifecycle.lastStrong.load(), 1);
-}
-
 std::atomic<int> g_registryConstructions{0};
 
 class Registry : public DelayedRefSingleton<Registry> {
@@ -171,38 +145,6 @@ TEST(PlatformUtilsConcurrencyTest, TheFirstUsesOfASingletonFromManyThreadsShareO
     EXPECT_EQ(g_registryConstructions.load(), 1);
     EXPECT_EQ(&Registry::GetInstance(), *instances.begin());
     EXPECT_EQ(g_registryConstructions.load(), 1);
-}
-
-class CountingSink : public HiviewDFX::LogSink {
-public:
-    void OnLog(const HiviewDFX::LogEntry&) override { ++lines; }
-    std::atomic<int> lines{0};
-};
-
-TEST(PlatformUtilsConcurrencyTest, LinesFromManyThreadsAllReachTheCaptureWhileOtherSinksComeAndGo)
-{
-    constexpr int LOGGERS = 3;
-    constexpr int LINES = 500;
-    const LogLevel saved = HiviewDFX::HiLogGetThreshold();
-    HiviewDFX::HiLogSetThreshold(LOG_LEVEL_MAX);
-    HiviewDFX::ScopedLogCapture capture;
-    CountingSink transient;
-    RunTogether(LOGGERS + 1, [&](int index) {
-        for (int i = 0; i < LINES; ++i) {
-            if (index == LOGGERS) {
-                HiviewDFX::HiLogAddSink(&transient);
-                HiviewDFX::HiLogRemoveSink(&transient);
-            } else {
-                HiLogPrint(LOG_CORE, LOG_INFO, 0xD001234, "Race", "line %{public}d", i);
-            }
-        }
-    });
-    const int transientLines = transient.lines;
-    HiLogPrint(LOG_CORE, LOG_INFO, 0xD001234, "Race", "after");
-    HiviewDFX::HiLogSetThreshold(saved);
-    EXPECT_EQ(capture.Count("Race", "line 499"), static_cast<size_t>(LOGGERS));
-    EXPECT_EQ(capture.Count("Race", ""), static_cast<size_t>(LOGGERS * LINES + 1));
-    EXPECT_EQ(transient.lines.load(), transientLines);
 }
 
 } // namespace

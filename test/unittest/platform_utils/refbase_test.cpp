@@ -58,26 +58,6 @@ TEST(RefBaseTest, StrongCountFollowsCopiesMovesAndConversions)
     EXPECT_EQ(lifecycle.destroyed.load(), 0);
 }
 
-TEST(RefBaseTest, AssigningAnSptrToItselfKeepsTheObject)
-{
-    Lifecycle lifecycle;
-    sptr<TrackedObject> held = sptr<TrackedObject>::MakeSptr(lifecycle);
-    TrackedObject* raw = held.GetRefPtr();
-    sptr<TrackedObject>& alias = held;
-
-    held = alias;
-    EXPECT_EQ(held.GetRefPtr(), raw);
-    EXPECT_EQ(raw->GetSptrRefCount(), 1);
-    held = std::move(alias);
-    EXPECT_EQ(held.GetRefPtr(), raw);
-    EXPECT_EQ(raw->GetSptrRefCount(), 1);
-    held = raw;
-    EXPECT_EQ(held.GetRefPtr(), raw);
-    EXPECT_EQ(raw->GetSptrRefCount(), 1);
-    EXPECT_EQ(lifecycle.destroyed.load(), 0);
-    EXPECT_EQ(lifecycle.lastStrong.load(), 0);
-}
-
 TEST(RefBaseTest, TheLastStrongReferenceDestroysTheObjectOnceWhicheverWayItGoes)
 {
     Lifecycle other;
@@ -116,28 +96,6 @@ TEST(RefBaseTest, TheLastStrongReferenceDestroysTheObjectOnceWhicheverWayItGoes)
         EXPECT_EQ(weak.GetRefPtr(), nullptr);
         EXPECT_TRUE(weak == nullptr);
     }
-}
-
-TEST(RefBaseTest, WeakCountFollowsWeakReferences)
-{
-    Lifecycle lifecycle;
-    sptr<TrackedObject> held = sptr<TrackedObject>::MakeSptr(lifecycle);
-    {
-        wptr<TrackedObject> fromSptr(held);
-        wptr<TrackedObject> fromRaw(held.GetRefPtr());
-        wptr<TrackedObject> copy(fromSptr);
-        EXPECT_EQ(held->GetWptrRefCount(), 3);
-        wptr<TrackedObject> moved(std::move(copy));
-        EXPECT_EQ(held->GetWptrRefCount(), 3);
-        wptr<RefBase> base(moved);
-        EXPECT_EQ(held->GetWptrRefCount(), 4);
-        moved = fromRaw;
-        EXPECT_EQ(held->GetWptrRefCount(), 4);
-        EXPECT_EQ(held->GetSptrRefCount(), 1);
-        EXPECT_TRUE(moved == held);
-    }
-    EXPECT_EQ(held->GetWptrRefCount(), 0);
-    EXPECT_EQ(lifecycle.destroyed.load(), 0);
 }
 
 TEST(RefBaseTest, PromoteGivesAStrongReferenceWhileTheObjectIsHeld)
@@ -182,72 +140,6 @@ TEST(RefBaseTest, AWeakReferenceOutlivingANeverHeldObjectCannotPromote)
     EXPECT_EQ(weak.GetRefPtr(), nullptr);
     EXPECT_EQ(weak.promote(), nullptr);
     EXPECT_EQ(lifecycle.destroyed.load(), 1);
-}
-
-TEST(RefBaseTest, AnExtendedLifetimeSurvivesItsLastStrongReference)
-{
-    Lifecycle lifecycle;
-    auto* object = new TrackedObject(lifecycle);
-    object->ExtendObjectLifetime();
-    wptr<TrackedObject> weak(object);
-    sptr<TrackedObject>(object).clear();
-    EXPECT_EQ(lifecycle.lastStrong.load(), 1);
-    EXPECT_EQ(lifecycle.destroyed.load(), 0);
-    EXPECT_EQ(object->State(), TrackedObject::ALIVE);
-    EXPECT_EQ(weak.promote(), nullptr);
-    EXPECT_EQ(weak.GetRefPtr(), object);
-    delete object;
-    EXPECT_EQ(weak.GetRefPtr(), nullptr);
-    EXPECT_EQ(lifecycle.destroyed.load(), 1);
-}
-
-TEST(RefBaseTest, ExplicitWeakReferencesReportTheLastOneOnce)
-{
-    Lifecycle lifecycle;
-    sptr<TrackedObject> held = sptr<TrackedObject>::MakeSptr(lifecycle);
-    held->IncWeakRef(nullptr);
-    held->IncWeakRef(nullptr);
-    EXPECT_EQ(held->GetWptrRefCount(), 2);
-    held->DecWeakRef(nullptr);
-    EXPECT_EQ(lifecycle.lastWeak.load(), 0);
-    held->DecWeakRef(nullptr);
-    EXPECT_EQ(lifecycle.lastWeak.load(), 1);
-    EXPECT_EQ(held->GetWptrRefCount(), 0);
-    EXPECT_TRUE(held->AttemptIncStrongRef(nullptr));
-    EXPECT_EQ(held->GetSptrRefCount(), 2);
-    held->DecStrongRef(nullptr);
-    EXPECT_EQ(lifecycle.destroyed.load(), 0);
-}
-
-TEST(RefBaseTest, ACopiedObjectHasCountsOfItsOwn)
-{
-    Lifecycle lifecycle;
-    sptr<TrackedObject> original = sptr<TrackedObject>::MakeSptr(lifecycle);
-    wptr<TrackedObject> weak(original);
-    TrackedObject copy(*original);
-    EXPECT_EQ(copy.GetSptrRefCount(), NEVER_HELD);
-    EXPECT_EQ(copy.GetWptrRefCount(), 0);
-    EXPECT_NE(copy.GetRefCounter(), original->GetRefCounter());
-    static_cast<RefBase&>(copy) = *original;
-    EXPECT_EQ(copy.GetSptrRefCount(), NEVER_HELD);
-    EXPECT_EQ(original->GetSptrRefCount(), 1);
-    EXPECT_EQ(original->GetWptrRefCount(), 1);
-}
-
-TEST(RefBaseTest, ComparisonsAreOnTheRawPointer)
-{
-    Lifecycle lifecycle;
-    sptr<DerivedObject> derived = sptr<DerivedObject>::MakeSptr(lifecycle);
-    const sptr<TrackedObject> base(derived);
-    sptr<TrackedObject> other = sptr<TrackedObject>::MakeSptr(lifecycle);
-    wptr<TrackedObject> weak(base);
-    EXPECT_TRUE(base == static_cast<const TrackedObject*>(derived.GetRefPtr()));
-    EXPECT_TRUE(base == weak);
-    EXPECT_TRUE(weak == base);
-    EXPECT_TRUE(base != other);
-    EXPECT_TRUE(other != weak);
-    EXPECT_TRUE(static_cast<bool>(base));
-    EXPECT_FALSE(static_cast<bool>(sptr<TrackedObject>()));
 }
 
 } // namespace
