@@ -73,19 +73,19 @@ int32_t ShareManagerState::EnableState()
 bool ShareManagerState::AddCallback(CallbackKind kind, const sptr<IRemoteObject>& callback)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    return callbacks_[kind].emplace(callback.GetRefPtr(), callback).second;
+    return callbacks_.Add(kind, callback);
 }
 
 bool ShareManagerState::RemoveCallback(CallbackKind kind, const sptr<IRemoteObject>& callback)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    return callbacks_[kind].erase(callback.GetRefPtr()) > 0;
+    return callbacks_.Remove(kind, callback);
 }
 
 bool ShareManagerState::HasCallbacks(CallbackKind kind)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    return !callbacks_[kind].empty();
+    return callbacks_.Count(kind) > 0;
 }
 
 bool ShareManagerState::SetDiscovering(bool discovering)

@@ -16,6 +16,7 @@
 
 #include "emulated_records.h"
 #include "iremote_object.h"
+#include "remote_registry.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -62,7 +63,7 @@ private:
     std::mutex mutex_;
     bool enabled_ = true;
     int32_t enableState_ = 1;
-    std::map<CallbackKind, std::map<IRemoteObject*, sptr<IRemoteObject>>> callbacks_;
+    RemoteRegistry<CallbackKind> callbacks_;
     bool discovering_ = false;
     bool connected_ = false;
     std::vector<UserEntry> users_;

@@ -22,34 +22,31 @@ ShareServiceState::ShareServiceState() :
 bool ShareServiceState::AddListener(ListenerKind kind, const sptr<IRemoteObject>& listener)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    return listeners_[kind].emplace(listener.GetRefPtr(), listener).second;
+    return listeners_.Add(kind, listener);
 }
 
 bool ShareServiceState::RemoveListener(ListenerKind kind, const sptr<IRemoteObject>& listener)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    return listeners_[kind].erase(listener.GetRefPtr()) > 0;
+    return listeners_.Remove(kind, listener);
 }
 
 bool ShareServiceState::ClearListeners(ListenerKind kind)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    auto& registered = listeners_[kind];
-    const bool hadAny = !registered.empty();
-    registered.clear();
-    return hadAny;
+    return listeners_.Clear(kind);
 }
 
 size_t ShareServiceState::ListenerCount(ListenerKind kind)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    return listeners_[kind].size();
+    return listeners_.Count(kind);
 }
 
 bool ShareServiceState::AddFoundDevice(const FoundDevice& device, const sptr<IRemoteObject>& listener)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    if (listeners_[ListenerKind::SUBSCRIBE].count(listener.GetRefPtr()) == 0) {
+    if (!listeners_.Contains(ListenerKind::SUBSCRIBE, listener)) {
         return false;
     }
     auto known = std::find_if(foundDevices_.begin(), foundDevices_.end(),
@@ -129,7 +126,7 @@ std::string ShareServiceState::PublishInfo()
 {
     std::lock_guard<std::mutex> lock(mutex_);
     return "{\"deviceName\":\"Emulated host\",\"publishers\":" +
-           std::to_string(listeners_[ListenerKind::PUBLISH].size()) +
+           std::to_string(listeners_.Count(ListenerKind::PUBLISH)) +
            ",\"discoveryPolicy\":" + std::to_string(discoveryPolicy_) +
            ",\"accountPermission\":" + std::to_string(accountPermission_) + "}";
 }

@@ -14,6 +14,7 @@
 
 #include "emulated_records.h"
 #include "iremote_object.h"
+#include "remote_registry.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -57,8 +58,7 @@ private:
     };
 
     std::mutex mutex_;
-    // Keyed by the object, which stays the same while the caller's listener lives.
-    std::map<ListenerKind, std::map<IRemoteObject*, sptr<IRemoteObject>>> listeners_;
+    RemoteRegistry<ListenerKind> listeners_;
     std::vector<FoundDevice> foundDevices_;
     std::map<int32_t, Transfer> transfers_;
     int32_t nextTransferId_ = 1;

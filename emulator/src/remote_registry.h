@@ -1,0 +1,43 @@
+/*
+ * The caller objects that an emulated service keeps per kind (listeners, callbacks). Keyed by the object, which
+ * stays the same while the caller's listener lives. Not locked: the owning state locks around it.
+ */
+#ifndef REMOTE_REGISTRY_H
+#define REMOTE_REGISTRY_H
+
+#include <cstddef>
+#include <map>
+
+#include "iremote_object.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+template <typename Kind>
+class RemoteRegistry {
+public:
+    // False when the object was already registered for the kind.
+    bool Add(Kind kind, const sptr<IRemoteObject>& object)
+    {
+        return objects_[kind].emplace(object.GetRefPtr(), object).second;
+    }
+    bool Remove(Kind kind, const sptr<IRemoteObject>& object) { return objects_[kind].erase(object.GetRefPtr()) > 0; }
+    bool Contains(Kind kind, const sptr<IRemoteObject>& object) { return objects_[kind].count(object.GetRefPtr()) > 0; }
+    // False when there was nothing to clear.
+    bool Clear(Kind kind)
+    {
+        auto& registered = objects_[kind];
+        const bool hadAny = !registered.empty();
+        registered.clear();
+        return hadAny;
+    }
+    size_t Count(Kind kind) { return objects_[kind].size(); }
+
+private:
+    std::map<Kind, std::map<IRemoteObject*, sptr<IRemoteObject>>> objects_;
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // REMOTE_REGISTRY_H
