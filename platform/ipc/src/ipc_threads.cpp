@@ -22,15 +22,15 @@ thread_local bool g_onIpcThread = false;
 // that tasks may touch are destroyed.
 class Dispatcher {
 public:
-    static Dispatcher& Instance()
+    static Dispatcher& OfProcess()
     {
-        static Dispatcher* instance = [] {
-            auto* dispatcher = new Dispatcher();
-            dispatcher->Start();
-            std::atexit([] { Instance().Stop(); });
-            return dispatcher;
+        static Dispatcher* dispatcher = [] {
+            auto* created = new Dispatcher();
+            created->Start();
+            std::atexit([] { OfProcess().Stop(); });
+            return created;
         }();
-        return *instance;
+        return *dispatcher;
     }
 
     void Post(IpcThreads::Task task, Clock::time_point due)
@@ -104,12 +104,12 @@ private:
 
 void IpcThreads::Post(Task task)
 {
-    Dispatcher::Instance().Post(std::move(task), Clock::now());
+    Dispatcher::OfProcess().Post(std::move(task), Clock::now());
 }
 
 void IpcThreads::PostDelayed(Task task, std::chrono::milliseconds delay)
 {
-    Dispatcher::Instance().Post(std::move(task), Clock::now() + delay);
+    Dispatcher::OfProcess().Post(std::move(task), Clock::now() + delay);
 }
 
 void IpcThreads::Drain()
@@ -117,7 +117,7 @@ void IpcThreads::Drain()
     if (g_onIpcThread) {
         return;
     }
-    Dispatcher::Instance().Drain();
+    Dispatcher::OfProcess().Drain();
 }
 
 bool IpcThreads::IsIpcThread()
