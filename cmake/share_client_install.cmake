@@ -14,14 +14,11 @@ target_link_options(share_client PRIVATE -Wl,--version-script=${share_version_sc
 set_property(TARGET share_client APPEND PROPERTY LINK_DEPENDS ${share_version_script})
 target_include_directories(share_client INTERFACE $<INSTALL_INTERFACE:${share_client_include_dir}>)
 
-# Public headers: everything an application includes; the internal log macros and the proxies (which use them) are
-# not part of the package.
-file(GLOB share_public_headers
-    ${PROJECT_SOURCE_DIR}/common/include/*.h
-    ${PROJECT_SOURCE_DIR}/services/parcel/include/*.h
-    ${PROJECT_SOURCE_DIR}/frameworks/inner/include/*.h)
-list(FILTER share_public_headers EXCLUDE REGEX "/(proxy_request|share_srv_proxy|share_manager_srv_proxy)\\.h$")
-install(FILES ${share_public_headers} DESTINATION ${share_client_include_dir} COMPONENT development)
+# Public headers are the include folders, whole: what the library keeps to itself lives beside its sources.
+foreach(folder common/include services/parcel/include frameworks/inner/include)
+    install(DIRECTORY ${PROJECT_SOURCE_DIR}/${folder}/ DESTINATION ${share_client_include_dir} COMPONENT development
+        FILES_MATCHING PATTERN "*.h")
+endforeach()
 
 # The host platform parts, exported as ohos::<part> like in the build tree.
 set(share_platform_parts utils ipc_core samgr_proxy hilog)

@@ -23,6 +23,13 @@ struct LogSite {
     const char* function;
 };
 
+// An argument check that an operation makes before it goes on: a refused one logs its text, if it has one, and the
+// operation ends with its neutral result.
+struct Refusal {
+    bool refused = false;
+    const char* text = nullptr;
+};
+
 inline constexpr LogLabel SHARE_NAPI_LABEL{"ShareNapi", 0xD004610};
 inline constexpr LogLabel SHARE_CLIENT_LABEL{"ShareClient", 0xD004611};
 inline constexpr LogLabel SHARE_MANAGER_CLIENT_LABEL{"ShareManagerClient", 0xD004611};
@@ -83,6 +90,14 @@ inline constexpr LogLabel SHARE_MANAGER_SERVICE_LABEL{"ShareManagerService", 0xD
 
 namespace OHOS {
 namespace Zelkon {
+
+// Logs a fixed text of an operation, if it has one (null: none).
+inline void LogText(const LogLabel& label, LogLevel level, const LogSite& site, const char* text)
+{
+    if (text != nullptr) {
+        SHARE_LOG_AT(label, level, site, "%{public}s", text);
+    }
+}
 
 inline bool LoggedCheck(bool ok, const LogLabel& label, const LogSite& site, const char* text)
 {

@@ -14,24 +14,33 @@
 #include <type_traits>
 #include <vector>
 
+#include "client_death_recipient.h"
 #include "iremote_object.h"
-#include "share_death_recipient.h"
 #include "share_sa_died_callback.h"
 #include "singleton.h"
 #include "zelkon_service.h"
-#include "zelkon_service_load_callback.h"
 
 namespace OHOS {
 namespace Zelkon {
 
 inline constexpr int32_t SHARE_SERVICE_SA_ID = 65569;
 
+struct ClientTexts;
 struct LogSite;
+struct Refusal;
+class ZelkonServiceLoadCallback;
 
 class ShareClient : public DelayedRefSingleton<ShareClient> {
     DECLARE_DELAYED_REF_SINGLETON(ShareClient)
 
 public:
+    // Told by the platform when the share service's remote object dies.
+    class ShareDeathRecipient
+        : public ClientDeathRecipient<ShareClient, ShareSaDiedCallback, &ShareSaDiedCallback::OnShareSaDied> {
+    public:
+        void SetSaDiedCallback(const std::weak_ptr<ShareSaDiedCallback>& callback) { SetCallback(callback); }
+    };
+
     int32_t Publish(const sptr<IPublishListener>& listener);
     int32_t UnPublish(int32_t publishId, const sptr<IPublishListener>& listener);
     int32_t Subscribe(const sptr<ISubscribeListener>& listener);
@@ -76,15 +85,12 @@ public:
     static constexpr int32_t LEGACY_NEARBY_VERSION = 8;
 
 private:
-    struct ForwardTexts;
-
     // Connect, then a copy of the proxy taken under the lock; null after logging the failure at the caller's site.
     sptr<ZelkonService> ConnectedProxy(const LogSite& site);
-    // The one body of the forwarding operations: enter line, the neutral result for refused arguments or a missing
-    // proxy, the call outside the lock, exit line; all logged at the operation's site.
+    // The forwarding body that both clients share, over this client's connection.
     template <typename Call>
-    std::invoke_result_t<Call, ZelkonService&> Forward(const LogSite& site, const ForwardTexts& texts,
-                                                       bool argumentsValid, Call&& call);
+    std::invoke_result_t<Call, ZelkonService&> Forward(const LogSite& site, const ClientTexts& texts, Call&& call,
+                                                       const Refusal& refusal = {});
 
     std::mutex mutex_;
     std::condition_variable proxyReady_;

@@ -9,8 +9,10 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <type_traits>
 #include <vector>
 
+#include "client_death_recipient.h"
 #include "i_widget_service.h"
 #include "iremote_object.h"
 #include "share_manager_died_callback.h"
@@ -19,21 +21,19 @@
 namespace OHOS {
 namespace Zelkon {
 
+struct ClientTexts;
 struct LogSite;
+struct Refusal;
 
 class ShareManagerClient : public DelayedRefSingleton<ShareManagerClient> {
     DECLARE_DELAYED_REF_SINGLETON(ShareManagerClient)
 
 public:
-    class ShareManagerDeathRecipient : public IRemoteObject::DeathRecipient {
+    // Told by the platform when the share manager service's remote object dies.
+    class ShareManagerDeathRecipient : public ClientDeathRecipient<ShareManagerClient, ShareManagerDiedCallback,
+                                                                   &ShareManagerDiedCallback::OnShareManagerDied> {
     public:
-        void OnRemoteDied(const wptr<IRemoteObject>& remote) override;
-        void SetDiedCallback(const std::weak_ptr<ShareManagerDiedCallback>& callback);
-
-    private:
-        // Registration may race with a death notice; the lock is never held while the callback runs.
-        std::mutex callbackMutex_;
-        std::weak_ptr<ShareManagerDiedCallback> diedCallback_;
+        void SetDiedCallback(const std::weak_ptr<ShareManagerDiedCallback>& callback) { SetCallback(callback); }
     };
 
     bool SetShareEnable(int32_t type, int32_t state, bool enable);
@@ -83,12 +83,12 @@ public:
     void RegisterDiedCallback(const std::shared_ptr<ShareManagerDiedCallback>& callback);
 
 private:
-    struct ForwardTexts;
-
-    // The one body of every forwarding operation: enter line, the proxy or the neutral result after the no-proxy
-    // line, the call outside the lock, exit line. Lines are logged at the operation's site.
-    template <typename Result, typename Call>
-    Result Forward(const LogSite& site, const ForwardTexts& texts, Result neutral, Call&& call);
+    // GetShareManagerSrvProxy, then the operation's no-proxy line at its site when there is none.
+    sptr<IWidgetService> ConnectedProxy(const LogSite& site, const ClientTexts& texts);
+    // The forwarding body that both clients share, over this client's connection.
+    template <typename Call>
+    std::invoke_result_t<Call, IWidgetService&> Forward(const LogSite& site, const ClientTexts& texts, Call&& call,
+                                                        const Refusal& refusal = {});
 
     sptr<IWidgetService> CopyProxy();
 

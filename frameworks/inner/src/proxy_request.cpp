@@ -12,16 +12,23 @@ constexpr size_t FIRST_REQUEST_CAPACITY = 256;
 
 } // namespace
 
-ProxyRequest::ProxyRequest(const RequestLabels& labels, const LogSite& site, const RequestTexts& texts) :
-    labels_(labels), site_(site), texts_(texts)
+ProxyRequest::ProxyRequest(const RequestLabels& labels, const LogSite& site, const RequestTexts& texts,
+                           const Refusal& refusal) :
+    labels_(labels),
+    site_(site), texts_(texts), refused_(refusal.refused)
 {
-    if (texts_.enter != nullptr) {
-        SHARE_LOG_AT(labels_.texts, texts_.enterLevel, site_, "%{public}s", texts_.enter);
+    if (refused_) {
+        LogError(refusal.text);
+    } else {
+        LogText(labels_.texts, texts_.enterLevel, site_, texts_.enter);
     }
 }
 
 bool ProxyRequest::HasRemote(sptr<IRemoteObject> remote)
 {
+    if (refused_) {
+        return false;
+    }
     remote_ = std::move(remote);
     return Check(remote_ != nullptr, "Remote() return nullptr.");
 }
@@ -33,7 +40,7 @@ bool ProxyRequest::WriteToken(std::u16string descriptor)
     return Check(data_.WriteInterfaceToken(std::move(descriptor)), "Write descriptor failed");
 }
 
-bool ProxyRequest::Start(sptr<IRemoteObject> remote, std::u16string descriptor)
+bool ProxyRequest::Open(sptr<IRemoteObject> remote, std::u16string descriptor)
 {
     return HasRemote(std::move(remote)) && WriteToken(std::move(descriptor));
 }
@@ -46,7 +53,7 @@ bool ProxyRequest::Check(bool ok, const char* failureText)
     return ok;
 }
 
-bool ProxyRequest::Transact(uint32_t code)
+bool ProxyRequest::TransactCode(uint32_t code)
 {
     MessageOption option(MessageOption::TF_SYNC, WAIT_TIME_SECONDS);
     int32_t result = remote_->SendRequest(code, data_, reply_, option);
@@ -58,20 +65,9 @@ bool ProxyRequest::Transact(uint32_t code)
     return true;
 }
 
-bool ProxyRequest::Send(uint32_t code)
-{
-    if (!Transact(code)) {
-        return false;
-    }
-    LogExit();
-    return true;
-}
-
 void ProxyRequest::LogExit() const
 {
-    if (texts_.exit != nullptr) {
-        SHARE_LOG_AT(labels_.texts, texts_.exitLevel, site_, "%{public}s", texts_.exit);
-    }
+    LogText(labels_.texts, texts_.exitLevel, site_, texts_.exit);
 }
 
 void ProxyRequest::LogError(const char* text) const

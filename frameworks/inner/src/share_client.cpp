@@ -5,8 +5,10 @@
 #include <chrono>
 #include <unistd.h>
 
+#include "client_forward.h"
 #include "iservice_registry.h"
 #include "share_log.h"
+#include "zelkon_service_load_callback.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -144,192 +146,162 @@ sptr<ZelkonService> ShareClient::ConnectedProxy(const LogSite& site)
     return proxy;
 }
 
-// An operation's enter and exit lines (exit null: none) at one level, and the error line for a refused argument
-// (null: refused silently).
-struct ShareClient::ForwardTexts {
-    ForwardTexts(const char* enterText, const char* exitText, LogLevel textLevel, const char* refusalText = nullptr) :
-        enter(enterText), exit(exitText), level(textLevel), refusal(refusalText)
-    {
-    }
-
-    const char* enter;
-    const char* exit;
-    LogLevel level;
-    const char* refusal;
-};
-
 template <typename Call>
-std::invoke_result_t<Call, ZelkonService&> ShareClient::Forward(const LogSite& site, const ForwardTexts& texts,
-                                                                bool argumentsValid, Call&& call)
+std::invoke_result_t<Call, ZelkonService&> ShareClient::Forward(const LogSite& site, const ClientTexts& texts,
+                                                                Call&& call, const Refusal& refusal)
 {
-    using Result = std::invoke_result_t<Call, ZelkonService&>;
-    SHARE_LOG_AT(SHARE_CLIENT_LABEL, texts.level, site, "%{public}s", texts.enter);
-    if (!argumentsValid) {
-        if (texts.refusal != nullptr) {
-            SHARE_LOG_AT(SHARE_CLIENT_LABEL, LOG_ERROR, site, "%{public}s", texts.refusal);
-        }
-        return Result{};
-    }
-    sptr<ZelkonService> proxy = ConnectedProxy(site);
-    if (proxy == nullptr) {
-        return Result{};
-    }
-    Result result = call(*proxy);
-    if (texts.exit != nullptr) {
-        SHARE_LOG_AT(SHARE_CLIENT_LABEL, texts.level, site, "%{public}s", texts.exit);
-    }
-    return result;
+    return ForwardCall<ZelkonService>(
+        SHARE_CLIENT_LABEL, site, texts, refusal, [this, &site] { return ConnectedProxy(site); }, call);
 }
+
+namespace {
+// The listener operations refuse a null listener before they connect, without a line of their own.
+template <typename Listener>
+Refusal SilentlyIfNull(const sptr<Listener>& listener)
+{
+    return {listener == nullptr, nullptr};
+}
+} // namespace
 
 int32_t ShareClient::Publish(const sptr<IPublishListener>& listener)
 {
-    return Forward(SHARE_LOG_SITE, {"Publish Enter", "Publish Exit", LOG_DEBUG}, listener != nullptr,
-                   [&](ZelkonService& proxy) { return proxy.PublishDevice(listener); });
+    return Forward(
+        SHARE_LOG_SITE, {"Publish Enter", "Publish Exit"},
+        [&](ZelkonService& proxy) { return proxy.PublishDevice(listener); }, SilentlyIfNull(listener));
 }
 
 int32_t ShareClient::UnPublish(int32_t publishId, const sptr<IPublishListener>& listener)
 {
-    return Forward(SHARE_LOG_SITE, {"UnPublish Enter", "UnPublish Exit", LOG_DEBUG}, listener != nullptr,
-                   [&](ZelkonService& proxy) { return proxy.UnPublishDevice(publishId, listener); });
+    return Forward(
+        SHARE_LOG_SITE, {"UnPublish Enter", "UnPublish Exit"},
+        [&](ZelkonService& proxy) { return proxy.UnPublishDevice(publishId, listener); }, SilentlyIfNull(listener));
 }
 
 int32_t ShareClient::Subscribe(const sptr<ISubscribeListener>& listener)
 {
-    return Forward(SHARE_LOG_SITE, {"Subscribe Enter", "SubscribeDevice Exit", LOG_DEBUG}, listener != nullptr,
-                   [&](ZelkonService& proxy) { return proxy.SubscribeDevice(listener); });
+    return Forward(
+        SHARE_LOG_SITE, {"Subscribe Enter", "SubscribeDevice Exit"},
+        [&](ZelkonService& proxy) { return proxy.SubscribeDevice(listener); }, SilentlyIfNull(listener));
 }
 
 int32_t ShareClient::UnSubscribe(int32_t subscribeId, const sptr<ISubscribeListener>& listener)
 {
-    return Forward(SHARE_LOG_SITE, {"UnSubscribe Enter", "UnSubscribe Exit", LOG_DEBUG}, listener != nullptr,
-                   [&](ZelkonService& proxy) { return proxy.UnSubscribeDevice(subscribeId, listener); });
+    return Forward(
+        SHARE_LOG_SITE, {"UnSubscribe Enter", "UnSubscribe Exit"},
+        [&](ZelkonService& proxy) { return proxy.UnSubscribeDevice(subscribeId, listener); }, SilentlyIfNull(listener));
 }
 
 int32_t ShareClient::ReportSwingEvent(int32_t gesture, int32_t x, int32_t y, std::string concurrentId)
 {
-    return Forward(SHARE_LOG_SITE, {"Enter", "Exit", LOG_INFO}, true,
+    return Forward(SHARE_LOG_SITE, {"Enter", "Exit", LOG_INFO},
                    [&](ZelkonService& proxy) { return proxy.ReportSwingEvent(gesture, x, y, concurrentId); });
 }
 
 int32_t ShareClient::SwingSubscribe(const sptr<ISubscribeListener>& listener)
 {
-    return Forward(SHARE_LOG_SITE, {"SwingSubscribe Enter", "SubscribeDevice Exit", LOG_DEBUG}, listener != nullptr,
-                   [&](ZelkonService& proxy) { return proxy.SwingSubscribe(listener); });
+    return Forward(
+        SHARE_LOG_SITE, {"SwingSubscribe Enter", "SubscribeDevice Exit"},
+        [&](ZelkonService& proxy) { return proxy.SwingSubscribe(listener); }, SilentlyIfNull(listener));
 }
 
 int32_t ShareClient::SwingUnSubscribe(const sptr<ISubscribeListener>& listener)
 {
-    return Forward(SHARE_LOG_SITE, {"UnSubscribe Enter", "UnSubscribe Exit", LOG_DEBUG}, listener != nullptr,
-                   [&](ZelkonService& proxy) { return proxy.SwingUnSubscribe(listener); });
+    return Forward(
+        SHARE_LOG_SITE, {"UnSubscribe Enter", "UnSubscribe Exit"},
+        [&](ZelkonService& proxy) { return proxy.SwingUnSubscribe(listener); }, SilentlyIfNull(listener));
 }
 
 int32_t ShareClient::RegisterReceiveListener(const sptr<ZelkonReceiveListener>& listener)
 {
-    return Forward(SHARE_LOG_SITE, {"RegisterReceiveListener Enter", "RegisterReceiveListener Exit", LOG_DEBUG},
-                   listener != nullptr, [&](ZelkonService& proxy) { return proxy.RegisterReceiveListener(listener); });
+    return Forward(
+        SHARE_LOG_SITE, {"RegisterReceiveListener Enter", "RegisterReceiveListener Exit"},
+        [&](ZelkonService& proxy) { return proxy.RegisterReceiveListener(listener); }, SilentlyIfNull(listener));
 }
 
 int32_t ShareClient::UnRegisterReceiveListener(const sptr<ZelkonReceiveListener>& listener)
 {
-    return Forward(SHARE_LOG_SITE, {"UnRegisterReceiveListener Enter", "UnRegisterReceiveListener Exit", LOG_DEBUG},
-                   listener != nullptr,
-                   [&](ZelkonService& proxy) { return proxy.UnRegisterReceiveListener(listener); });
+    return Forward(
+        SHARE_LOG_SITE, {"UnRegisterReceiveListener Enter", "UnRegisterReceiveListener Exit"},
+        [&](ZelkonService& proxy) { return proxy.UnRegisterReceiveListener(listener); }, SilentlyIfNull(listener));
 }
 
-// The send operations log their exit before the call, and the two SendFile exit texts are crossed over: both as
-// the services' log readers know them.
+// The two SendFile exit texts are crossed over, as the services' log readers know them.
 sptr<ZelkonSender> ShareClient::SendFile(const TransmitParam& param, SendBean& sendBean, const std::string& packageName)
 {
-    SHARE_CLIENT_LOGI("send file with send bean enter!");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return nullptr;
-    }
-    SHARE_CLIENT_LOGD("send file with preview info exit!");
-    return proxy->SendFile(param, sendBean, packageName);
+    return Forward(SHARE_LOG_SITE,
+                   ClientTexts("send file with send bean enter!", "send file with preview info exit!")
+                       .EnterAt(LOG_INFO)
+                       .ExitBeforeCall(),
+                   [&](ZelkonService& proxy) { return proxy.SendFile(param, sendBean, packageName); });
 }
 
 sptr<ZelkonSender> ShareClient::SendFile(const TransmitParam& param, const DataBean& dataBean,
                                          const std::string& packageName)
 {
-    SHARE_CLIENT_LOGD("send file with data bean enter!");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return nullptr;
-    }
-    SHARE_CLIENT_LOGD("send file with send bean exit!");
-    return proxy->SendFile(param, dataBean, packageName);
+    return Forward(SHARE_LOG_SITE,
+                   ClientTexts("send file with data bean enter!", "send file with send bean exit!").ExitBeforeCall(),
+                   [&](ZelkonService& proxy) { return proxy.SendFile(param, dataBean, packageName); });
 }
 
 sptr<ZelkonSender> ShareClient::SendBytes(const TransmitParam& param, const BytesInfo& bytesInfo)
 {
-    SHARE_CLIENT_LOGD("SendBytes Enter");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return nullptr;
-    }
-    SHARE_CLIENT_LOGD("SendBytes Exit");
-    return proxy->SendBytes(param, bytesInfo);
+    return Forward(SHARE_LOG_SITE, ClientTexts("SendBytes Enter", "SendBytes Exit").ExitBeforeCall(),
+                   [&](ZelkonService& proxy) { return proxy.SendBytes(param, bytesInfo); });
 }
 
 sptr<ZelkonSender> ShareClient::CommonShareSend(CommonShareObject& shareObject, const sptr<ITransmitCallback>& callback)
 {
-    return Forward(SHARE_LOG_SITE, {"CommonShareSend start", nullptr, LOG_DEBUG}, true,
+    return Forward(SHARE_LOG_SITE, {"CommonShareSend start", nullptr},
                    [&](ZelkonService& proxy) { return proxy.CommonShareSend(shareObject, callback); });
 }
 
 void ShareClient::Cancel(std::string networkId)
 {
-    SHARE_CLIENT_LOGD("Cancel start");
-    sptr<ZelkonService> proxy = ConnectedProxy(SHARE_LOG_SITE);
-    if (proxy == nullptr) {
-        return;
-    }
-    proxy->Cancel(networkId);
+    Forward(SHARE_LOG_SITE, {"Cancel start", nullptr}, [&](ZelkonService& proxy) { proxy.Cancel(networkId); });
 }
 
 int32_t ShareClient::EnableDiscoveryPolicy(int32_t policy)
 {
-    return Forward(SHARE_LOG_SITE, {"EnableDiscoveryPolicy Enter", "EnableDiscoveryPolicy Exit", LOG_DEBUG}, true,
+    return Forward(SHARE_LOG_SITE, {"EnableDiscoveryPolicy Enter", "EnableDiscoveryPolicy Exit"},
                    [&](ZelkonService& proxy) { return proxy.EnableDiscoveryPolicy(policy); });
 }
 
 int32_t ShareClient::SetAccountPermission(int32_t permission)
 {
-    return Forward(SHARE_LOG_SITE, {"SetAccountPermission Enter", "SetAccountPermission Exit", LOG_DEBUG}, true,
+    return Forward(SHARE_LOG_SITE, {"SetAccountPermission Enter", "SetAccountPermission Exit"},
                    [&](ZelkonService& proxy) { return proxy.SetAccountPermission(permission); });
 }
 
 int32_t ShareClient::RegisterCommonReceiveListener(const sptr<ICommonReceiveListener>& listener)
 {
-    return Forward(
-        SHARE_LOG_SITE,
-        {"RegisterCommonReceiveListener Enter", "RegisterCommonReceiveListener Exit", LOG_DEBUG, "listener is null."},
-        listener != nullptr, [&](ZelkonService& proxy) { return proxy.RegisterCommonReceiveListener(listener); });
+    return Forward(SHARE_LOG_SITE, {"RegisterCommonReceiveListener Enter", "RegisterCommonReceiveListener Exit"},
+                   [&](ZelkonService& proxy) { return proxy.RegisterCommonReceiveListener(listener); },
+                   {listener == nullptr, "listener is null."});
 }
 
 int32_t ShareClient::UnRegisterCommonReceiveListener()
 {
-    return Forward(SHARE_LOG_SITE,
-                   {"UnRegisterCommonReceiveListener Enter", "UnRegisterCommonReceiveListener Exit", LOG_DEBUG}, true,
+    return Forward(SHARE_LOG_SITE, {"UnRegisterCommonReceiveListener Enter", "UnRegisterCommonReceiveListener Exit"},
                    [](ZelkonService& proxy) { return proxy.UnRegisterCommonReceiveListener(); });
 }
 
 int32_t ShareClient::SuspendWifiScanning(const std::string& ifName)
 {
-    return Forward(SHARE_LOG_SITE, {"SuspendWifiScanning Enter", "SuspendWifiScanning Exit", LOG_INFO}, true,
+    return Forward(SHARE_LOG_SITE, {"SuspendWifiScanning Enter", "SuspendWifiScanning Exit", LOG_INFO},
                    [&](ZelkonService& proxy) { return proxy.SuspendWifiScanning(ifName); });
 }
 
 int32_t ShareClient::ResumeWifiScanning(const std::string& ifName)
 {
-    return Forward(SHARE_LOG_SITE, {"ResumeWifiScanning Enter", "ResumeWifiScanning Exit", LOG_INFO}, true,
+    return Forward(SHARE_LOG_SITE, {"ResumeWifiScanning Enter", "ResumeWifiScanning Exit", LOG_INFO},
                    [&](ZelkonService& proxy) { return proxy.ResumeWifiScanning(ifName); });
 }
 
 int32_t ShareClient::OnCollabDeviceFound(const sptr<ShareDevice>& device, const sptr<ISubscribeListener>& listener,
                                          uint32_t updateFlag)
 {
+    // Not forwarded through Forward: the device filter comes between the proxy copy and the call, and a skipped
+    // device logs no exit line.
     SHARE_CLIENT_LOGI("OnCollabDeviceFound Enter");
     if (listener == nullptr) {
         SHARE_CLIENT_LOGE("ISubscribeListener nullptr.");
@@ -351,32 +323,32 @@ int32_t ShareClient::OnCollabDeviceFound(const sptr<ShareDevice>& device, const 
 
 int32_t ShareClient::ClearDiscovererFlag(const std::string& deviceId, uint32_t flag)
 {
-    return Forward(SHARE_LOG_SITE, {"ClearDiscovererFlag Enter", "ClearDiscovererFlag Exit", LOG_INFO}, true,
+    return Forward(SHARE_LOG_SITE, {"ClearDiscovererFlag Enter", "ClearDiscovererFlag Exit", LOG_INFO},
                    [&](ZelkonService& proxy) { return proxy.ClearDiscovererFlag(deviceId, flag); });
 }
 
 int32_t ShareClient::GetPontalPublishInfo(std::string& publishInfo)
 {
-    return Forward(SHARE_LOG_SITE, {"GetPontalPublishInfo Enter", "GetPontalPublishInfo Exit", LOG_INFO}, true,
+    return Forward(SHARE_LOG_SITE, {"GetPontalPublishInfo Enter", "GetPontalPublishInfo Exit", LOG_INFO},
                    [&](ZelkonService& proxy) { return proxy.GetPontalPublishInfo(publishInfo); });
 }
 
 int32_t ShareClient::ApplyUriPermission(const std::string& deviceId)
 {
-    return Forward(SHARE_LOG_SITE, {"ApplyUriPermission Enter", "ApplyUriPermission Exit", LOG_INFO}, true,
+    return Forward(SHARE_LOG_SITE, {"ApplyUriPermission Enter", "ApplyUriPermission Exit", LOG_INFO},
                    [&](ZelkonService& proxy) { return proxy.ApplyUriPermission(deviceId); });
 }
 
 std::vector<PermanentDeviceInfo> ShareClient::GetPermanentDeviceList()
 {
-    return Forward(SHARE_LOG_SITE, {"GetPermanentDeviceList Enter", "GetPermanentDeviceList Exit", LOG_INFO}, true,
+    return Forward(SHARE_LOG_SITE, {"GetPermanentDeviceList Enter", "GetPermanentDeviceList Exit", LOG_INFO},
                    [](ZelkonService& proxy) { return proxy.GetPermanentDeviceList(); });
 }
 
 int32_t ShareClient::RemovePermanentDeviceById(int32_t id)
 {
     return Forward(SHARE_LOG_SITE, {"RemovePermanentDeviceById Enter", "RemovePermanentDeviceById Exit", LOG_INFO},
-                   true, [&](ZelkonService& proxy) { return proxy.RemovePermanentDeviceById(id); });
+                   [&](ZelkonService& proxy) { return proxy.RemovePermanentDeviceById(id); });
 }
 
 } // namespace Zelkon

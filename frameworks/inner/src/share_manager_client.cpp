@@ -2,6 +2,7 @@
 
 #include "share_common_constants.h"
 
+#include "client_forward.h"
 #include "iservice_registry.h"
 #include "share_log.h"
 
@@ -79,93 +80,54 @@ void ShareManagerClient::RegisterDiedCallback(const std::shared_ptr<ShareManager
     deathRecipient_->SetDiedCallback(callback);
 }
 
-void ShareManagerClient::ShareManagerDeathRecipient::OnRemoteDied(const wptr<IRemoteObject>& remote)
+sptr<IWidgetService> ShareManagerClient::ConnectedProxy(const LogSite& site, const ClientTexts& texts)
 {
-    if (remote == nullptr) {
-        SHARE_MANAGER_CLIENT_LOGE("OnRemoteDied failed, remote is nullptr");
-        return;
-    }
-    ShareManagerClient::GetInstance().ResetProxy(remote);
-    std::shared_ptr<ShareManagerDiedCallback> callback;
-    {
-        std::lock_guard<std::mutex> lock(callbackMutex_);
-        callback = diedCallback_.lock();
-    }
-    if (callback != nullptr) {
-        callback->OnShareManagerDied();
-    }
-    SHARE_MANAGER_CLIENT_LOGD("Recv death notice");
-}
-
-void ShareManagerClient::ShareManagerDeathRecipient::SetDiedCallback(
-    const std::weak_ptr<ShareManagerDiedCallback>& callback)
-{
-    std::lock_guard<std::mutex> lock(callbackMutex_);
-    diedCallback_ = callback;
-}
-
-// An operation's enter and exit lines (null: none), their level, and its text for a missing proxy.
-struct ShareManagerClient::ForwardTexts {
-    ForwardTexts(const char* enterText, const char* exitText,
-                 const char* noProxyText = "shareManagerSrvProxy_ is nullptr", LogLevel textLevel = LOG_DEBUG) :
-        enter(enterText),
-        exit(exitText), noProxy(noProxyText), level(textLevel)
-    {
-    }
-
-    const char* enter;
-    const char* exit;
-    const char* noProxy;
-    LogLevel level;
-};
-
-template <typename Result, typename Call>
-Result ShareManagerClient::Forward(const LogSite& site, const ForwardTexts& texts, Result neutral, Call&& call)
-{
-    if (texts.enter != nullptr) {
-        SHARE_LOG_AT(SHARE_MANAGER_CLIENT_LABEL, texts.level, site, "%{public}s", texts.enter);
-    }
     sptr<IWidgetService> proxy = GetShareManagerSrvProxy();
     if (proxy == nullptr) {
-        SHARE_LOG_AT(SHARE_MANAGER_CLIENT_LABEL, LOG_ERROR, site, "%{public}s", texts.noProxy);
-        return neutral;
+        LogText(SHARE_MANAGER_CLIENT_LABEL, LOG_ERROR, site,
+                texts.noProxy != nullptr ? texts.noProxy : "shareManagerSrvProxy_ is nullptr");
     }
-    Result result = call(*proxy);
-    if (texts.exit != nullptr) {
-        SHARE_LOG_AT(SHARE_MANAGER_CLIENT_LABEL, texts.level, site, "%{public}s", texts.exit);
-    }
-    return result;
+    return proxy;
+}
+
+template <typename Call>
+std::invoke_result_t<Call, IWidgetService&> ShareManagerClient::Forward(const LogSite& site, const ClientTexts& texts,
+                                                                        Call&& call, const Refusal& refusal)
+{
+    return ForwardCall<IWidgetService>(
+        SHARE_MANAGER_CLIENT_LABEL, site, texts, refusal, [this, &site, &texts] { return ConnectedProxy(site, texts); },
+        call);
 }
 
 bool ShareManagerClient::SetShareEnable(int32_t type, int32_t state, bool enable)
 {
-    return Forward(SHARE_LOG_SITE, {"Enable Enter", "Enable Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"Enable Enter", "Enable Exit"},
                    [&](IWidgetService& proxy) { return proxy.SetShareEnable(type, state, enable); });
 }
 
 bool ShareManagerClient::SetShareEnableWithConfirm(int32_t type, int32_t state, bool enable, bool confirm)
 {
-    return Forward(
-        SHARE_LOG_SITE, {"EnableWithConfirm Enter", "EnableWithConfirm Exit"}, false,
-        [&](IWidgetService& proxy) { return proxy.SetShareEnableWithConfirm(type, state, enable, confirm); });
+    return Forward(SHARE_LOG_SITE, {"EnableWithConfirm Enter", "EnableWithConfirm Exit"}, [&](IWidgetService& proxy) {
+        return proxy.SetShareEnableWithConfirm(type, state, enable, confirm);
+    });
 }
 
 bool ShareManagerClient::IsEnabled()
 {
-    return Forward(SHARE_LOG_SITE, {"IsEnabled Enter", "IsEnabled Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"IsEnabled Enter", "IsEnabled Exit"},
                    [](IWidgetService& proxy) { return proxy.IsEnabled(); });
 }
 
 int32_t ShareManagerClient::GetEnableState()
 {
-    return Forward(SHARE_LOG_SITE, {"GetEnableState Enter", "GetEnableState Exit"}, 0,
+    return Forward(SHARE_LOG_SITE, {"GetEnableState Enter", "GetEnableState Exit"},
                    [](IWidgetService& proxy) { return proxy.GetEnableState(); });
 }
 
 bool ShareManagerClient::IsFocusPidsRegisterSwing()
 {
     const LogSite site = SHARE_LOG_SITE;
-    return Forward(site, {nullptr, nullptr}, false, [&site](IWidgetService& proxy) {
+    return Forward(site, {nullptr, nullptr}, [&site](IWidgetService& proxy) {
         bool registered = proxy.IsFocusPidsRegisterSwing();
         SHARE_LOG_AT(SHARE_MANAGER_CLIENT_LABEL, LOG_INFO, site, "IsFocusPidsRegisterSwing %{public}d", registered);
         return registered;
@@ -174,160 +136,162 @@ bool ShareManagerClient::IsFocusPidsRegisterSwing()
 
 bool ShareManagerClient::RegisterWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback)
 {
-    return Forward(SHARE_LOG_SITE, {"RegisterWidgetCallback Enter", "RegisterWidgetCallback Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"RegisterWidgetCallback Enter", "RegisterWidgetCallback Exit"},
                    [&](IWidgetService& proxy) { return proxy.RegisterWidgetCallback(callback); });
 }
 
 bool ShareManagerClient::UnRegisterWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback)
 {
-    return Forward(SHARE_LOG_SITE, {"UnRegisterWidgetCallback Enter", "UnRegisterWidgetCallback Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"UnRegisterWidgetCallback Enter", "UnRegisterWidgetCallback Exit"},
                    [&](IWidgetService& proxy) { return proxy.UnRegisterWidgetCallback(callback); });
 }
 
 bool ShareManagerClient::StartDiscovery()
 {
-    return Forward(SHARE_LOG_SITE, {"StartDiscovery Enter", "StartDiscovery Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"StartDiscovery Enter", "StartDiscovery Exit"},
                    [](IWidgetService& proxy) { return proxy.StartDiscovery(); });
 }
 
 bool ShareManagerClient::StopDiscovery()
 {
-    return Forward(SHARE_LOG_SITE, {"StopDiscovery Enter", "StopDiscovery Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"StopDiscovery Enter", "StopDiscovery Exit"},
                    [](IWidgetService& proxy) { return proxy.StopDiscovery(); });
 }
 
 bool ShareManagerClient::StartConnect()
 {
-    return Forward(SHARE_LOG_SITE,
-                   {"StartConnect Enter", "StartConnect Exit", "StartConnect shareManagerSrvProxy_ is nullptr"}, false,
-                   [](IWidgetService& proxy) { return proxy.StartConnect(); });
+    return Forward(
+        SHARE_LOG_SITE,
+        ClientTexts("StartConnect Enter", "StartConnect Exit").NoProxy("StartConnect shareManagerSrvProxy_ is nullptr"),
+        [](IWidgetService& proxy) { return proxy.StartConnect(); });
 }
 
 bool ShareManagerClient::StopConnect()
 {
-    return Forward(SHARE_LOG_SITE,
-                   {"StopConnect Enter", "StopConnect Exit", "StopConnect shareManagerSrvProxy_ is nullptr"}, false,
-                   [](IWidgetService& proxy) { return proxy.StopConnect(); });
+    return Forward(
+        SHARE_LOG_SITE,
+        ClientTexts("StopConnect Enter", "StopConnect Exit").NoProxy("StopConnect shareManagerSrvProxy_ is nullptr"),
+        [](IWidgetService& proxy) { return proxy.StopConnect(); });
 }
 
 std::vector<ShareDeviceInfo> ShareManagerClient::GetAllUserList()
 {
     const LogSite site = SHARE_LOG_SITE;
-    return Forward(site, {"GetAllUserList Enter", nullptr, "GetAllUserList shareManagerSrvProxy_ is nullptr"},
-                   std::vector<ShareDeviceInfo>(), [&site](IWidgetService& proxy) {
-                       std::vector<ShareDeviceInfo> devices = proxy.GetAllUserList();
-                       SHARE_LOG_AT(SHARE_MANAGER_CLIENT_LABEL, LOG_DEBUG, site, "GetAllUserList Exit size %{public}zu",
-                                    devices.size());
-                       return devices;
-                   });
+    return Forward(
+        site, ClientTexts("GetAllUserList Enter", nullptr).NoProxy("GetAllUserList shareManagerSrvProxy_ is nullptr"),
+        [&site](IWidgetService& proxy) {
+            std::vector<ShareDeviceInfo> devices = proxy.GetAllUserList();
+            SHARE_LOG_AT(SHARE_MANAGER_CLIENT_LABEL, LOG_DEBUG, site, "GetAllUserList Exit size %{public}zu",
+                         devices.size());
+            return devices;
+        });
 }
 
 std::vector<ShareDeviceInfo> ShareManagerClient::GetSendingUserList()
 {
     const LogSite site = SHARE_LOG_SITE;
-    return Forward(site, {"GetSendingUserList Enter", nullptr}, std::vector<ShareDeviceInfo>(),
-                   [&site](IWidgetService& proxy) {
-                       std::vector<ShareDeviceInfo> devices = proxy.GetSendingUserList();
-                       SHARE_LOG_AT(SHARE_MANAGER_CLIENT_LABEL, LOG_DEBUG, site,
-                                    "GetSendingUserList Exit size %{public}zu", devices.size());
-                       return devices;
-                   });
+    return Forward(site, {"GetSendingUserList Enter", nullptr}, [&site](IWidgetService& proxy) {
+        std::vector<ShareDeviceInfo> devices = proxy.GetSendingUserList();
+        SHARE_LOG_AT(SHARE_MANAGER_CLIENT_LABEL, LOG_DEBUG, site, "GetSendingUserList Exit size %{public}zu",
+                     devices.size());
+        return devices;
+    });
 }
 
 bool ShareManagerClient::PrepareSend(const ShareDeviceInfo& deviceInfo)
 {
-    return Forward(SHARE_LOG_SITE, {"PrepareSend Enter", "PrepareSend Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"PrepareSend Enter", "PrepareSend Exit"},
                    [&](IWidgetService& proxy) { return proxy.PrepareSend(deviceInfo); });
 }
 
 bool ShareManagerClient::Send(const ShareDeviceInfo& deviceInfo, SendBean& sendBean, const std::string& packageName)
 {
-    return Forward(SHARE_LOG_SITE, {"Send Enter", "Send Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"Send Enter", "Send Exit"},
                    [&](IWidgetService& proxy) { return proxy.Send(deviceInfo, sendBean, packageName); });
 }
 
 bool ShareManagerClient::SendFile(const ShareDeviceInfo& deviceInfo, const DataBean& dataBean,
                                   const std::string& packageName)
 {
-    return Forward(SHARE_LOG_SITE, {"SendFile Enter", "SendFile Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"SendFile Enter", "SendFile Exit"},
                    [&](IWidgetService& proxy) { return proxy.SendFile(deviceInfo, dataBean, packageName); });
 }
 
 bool ShareManagerClient::SendBytes(const ShareDeviceInfo& deviceInfo, const BytesInfo& bytesInfo)
 {
-    return Forward(SHARE_LOG_SITE, {"SendBytes Enter", "SendBytes Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"SendBytes Enter", "SendBytes Exit"},
                    [&](IWidgetService& proxy) { return proxy.SendBytes(deviceInfo, bytesInfo); });
 }
 
 bool ShareManagerClient::Cancel(const ShareDeviceInfo& deviceInfo)
 {
-    return Forward(SHARE_LOG_SITE, {"Cancel Enter", "Cancel Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"Cancel Enter", "Cancel Exit"},
                    [&](IWidgetService& proxy) { return proxy.Cancel(deviceInfo); });
 }
 
 bool ShareManagerClient::RegisterSenderActionCallback(const sptr<ISenderActionCallback>& callback)
 {
-    return Forward(SHARE_LOG_SITE, {"RegisterSenderActionCallback Enter", "RegisterSenderActionCallback Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"RegisterSenderActionCallback Enter", "RegisterSenderActionCallback Exit"},
                    [&](IWidgetService& proxy) { return proxy.RegisterSenderActionCallback(callback); });
 }
 
 bool ShareManagerClient::UnRegisterSenderActionCallback(const sptr<ISenderActionCallback>& callback)
 {
     return Forward(SHARE_LOG_SITE, {"UnRegisterSenderActionCallback Enter", "UnRegisterSenderActionCallback Exit"},
-                   false, [&](IWidgetService& proxy) { return proxy.UnRegisterSenderActionCallback(callback); });
+                   [&](IWidgetService& proxy) { return proxy.UnRegisterSenderActionCallback(callback); });
 }
 
 sptr<ZelkonReceiver> ShareManagerClient::GetReceiverActionCallback()
 {
     return Forward(SHARE_LOG_SITE, {"GetReceiverActionCallback Enter", "GetReceiverActionCallback Exit"},
-                   sptr<ZelkonReceiver>(), [](IWidgetService& proxy) { return proxy.GetReceiverActionCallback(); });
+                   [](IWidgetService& proxy) { return proxy.GetReceiverActionCallback(); });
 }
 
 std::string ShareManagerClient::GetPreviewData()
 {
-    return Forward(SHARE_LOG_SITE, {"GetPreviewData Enter", nullptr}, std::string(),
+    return Forward(SHARE_LOG_SITE, {"GetPreviewData Enter", nullptr},
                    [](IWidgetService& proxy) { return proxy.GetPreviewData(); });
 }
 
 ShareAccountInfo ShareManagerClient::GetAccountInfo()
 {
-    return Forward(SHARE_LOG_SITE, {"GetAccountInfo Enter", "GetAccountInfo Exit"}, ShareAccountInfo(),
+    return Forward(SHARE_LOG_SITE, {"GetAccountInfo Enter", "GetAccountInfo Exit"},
                    [](IWidgetService& proxy) { return proxy.GetAccountInfo(); });
 }
 
 bool ShareManagerClient::SetShareAccountPermission(int32_t permission)
 {
-    return Forward(SHARE_LOG_SITE, {"SetShareAccountPermission Enter", "SetShareAccountPermission Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"SetShareAccountPermission Enter", "SetShareAccountPermission Exit"},
                    [&](IWidgetService& proxy) { return proxy.SetShareAccountPermission(permission); });
 }
 
 bool ShareManagerClient::RegisterVxShareApiWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback)
 {
-    return Forward(SHARE_LOG_SITE, {"Enter", "Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"Enter", "Exit"},
                    [&](IWidgetService& proxy) { return proxy.RegisterVxShareApiWidgetCallback(callback); });
 }
 
 bool ShareManagerClient::UnRegisterVxShareApiWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback)
 {
-    return Forward(SHARE_LOG_SITE, {"Enter", "Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"Enter", "Exit"},
                    [&](IWidgetService& proxy) { return proxy.UnRegisterVxShareApiWidgetCallback(callback); });
 }
 
 bool ShareManagerClient::RegisterVxShareApiEvent(const std::string& event)
 {
-    return Forward(SHARE_LOG_SITE, {"Enter", "Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"Enter", "Exit"},
                    [&](IWidgetService& proxy) { return proxy.RegisterVxShareApiEvent(event); });
 }
 
 bool ShareManagerClient::UnRegisterVxShareApiEvent(const std::string& event)
 {
-    return Forward(SHARE_LOG_SITE, {"Enter", "Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"Enter", "Exit"},
                    [&](IWidgetService& proxy) { return proxy.UnRegisterVxShareApiEvent(event); });
 }
 
 bool ShareManagerClient::NotifyInfo(const ShareDeviceInfo& deviceInfo, int32_t info)
 {
-    return Forward(SHARE_LOG_SITE, {"NotifyInfo Enter", "NotifyInfo Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"NotifyInfo Enter", "NotifyInfo Exit"},
                    [&](IWidgetService& proxy) { return proxy.NotifyInfo(deviceInfo, info); });
 }
 
@@ -351,38 +315,37 @@ bool ShareManagerClient::ApplyUriPermission(const std::string& packageName)
 
 bool ShareManagerClient::SwingConfirm(const ShareDeviceInfo& deviceInfo, int32_t confirm)
 {
-    return Forward(SHARE_LOG_SITE,
-                   {"SwingConfirm Enter", "SwingConfirm Exit", "shareManagerSrvProxy_ is nullptr", LOG_INFO}, false,
+    return Forward(SHARE_LOG_SITE, {"SwingConfirm Enter", "SwingConfirm Exit", LOG_INFO},
                    [&](IWidgetService& proxy) { return proxy.SwingConfirm(deviceInfo, confirm); });
 }
 
 bool ShareManagerClient::IsAppForeground(const std::string& packageName)
 {
-    return Forward(SHARE_LOG_SITE, {"IsAppForeground Enter", "IsAppForeground Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"IsAppForeground Enter", "IsAppForeground Exit"},
                    [&](IWidgetService& proxy) { return proxy.IsAppForeground(packageName); });
 }
 
 bool ShareManagerClient::RegisterShareApiCallback(const sptr<ZelkonApiCallback>& callback)
 {
-    return Forward(SHARE_LOG_SITE, {"RegisterShareApiCallback Enter", "RegisterShareApiCallback Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"RegisterShareApiCallback Enter", "RegisterShareApiCallback Exit"},
                    [&](IWidgetService& proxy) { return proxy.RegisterShareApiCallback(callback); });
 }
 
 bool ShareManagerClient::UnregisterShareApiCallback(const sptr<ZelkonApiCallback>& callback)
 {
-    return Forward(SHARE_LOG_SITE, {"UnregisterShareApiCallback Enter", "UnregisterShareApiCallback Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"UnregisterShareApiCallback Enter", "UnregisterShareApiCallback Exit"},
                    [&](IWidgetService& proxy) { return proxy.UnregisterShareApiCallback(callback); });
 }
 
 bool ShareManagerClient::RegisterShareEventCallback(int32_t eventType, int32_t eventId)
 {
-    return Forward(SHARE_LOG_SITE, {"RegisterShareEventCallback Enter", "RegisterShareEventCallback Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"RegisterShareEventCallback Enter", "RegisterShareEventCallback Exit"},
                    [&](IWidgetService& proxy) { return proxy.RegisterShareEventCallback(eventType, eventId); });
 }
 
 bool ShareManagerClient::UnregisterShareEventCallback(int32_t eventType, int32_t eventId)
 {
-    return Forward(SHARE_LOG_SITE, {"UnregisterShareEventCallback Enter", "UnregisterShareEventCallback Exit"}, false,
+    return Forward(SHARE_LOG_SITE, {"UnregisterShareEventCallback Enter", "UnregisterShareEventCallback Exit"},
                    [&](IWidgetService& proxy) { return proxy.UnregisterShareEventCallback(eventType, eventId); });
 }
 

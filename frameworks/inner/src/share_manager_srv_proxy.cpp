@@ -12,6 +12,7 @@ namespace Zelkon {
 BrokerDelegator<ShareManagerSrvProxy> ShareManagerSrvProxy::delegator_;
 
 namespace {
+using Code = WidgetServiceCode;
 const RequestLabels PROXY_LABELS{SHARE_MANAGER_PROXY_LABEL, SHARE_MANAGER_PROXY_LABEL};
 const char* const WRITE_SHARE_DEVICE_FAILED = "Write ShareDevice failed";
 const char* const WRITE_DEVICE_INFO_FAILED = "Write deviceInfo failed";
@@ -28,113 +29,90 @@ RequestTexts Debug(const char* enter, const char* exit)
 
 // The share API requests log the bare words, at info level.
 const RequestTexts BARE_INFO{"Enter", LOG_INFO, "Exit", LOG_INFO};
+
+// The callback rows refuse a null callback before anything else.
+template <typename Callback>
+Refusal NullCallback(const sptr<Callback>& callback)
+{
+    return {callback == nullptr, "The parameter callback is nullptr."};
+}
 } // namespace
 
-template <typename Write>
-bool ShareManagerSrvProxy::BoolRequest(const LogSite& site, const RequestTexts& texts, uint32_t code, Write&& write)
+bool ShareManagerSrvProxy::Open(ProxyRequest& request)
 {
-    ProxyRequest req(PROXY_LABELS, site, texts);
-    return req.Start(Remote(), GetDescriptor()) && write(req) && req.Send(code) && req.ReplyBool();
-}
-
-bool ShareManagerSrvProxy::PlainRequest(const LogSite& site, const RequestTexts& texts, uint32_t code)
-{
-    return BoolRequest(site, texts, code, [](ProxyRequest&) { return true; });
-}
-
-template <typename Callback>
-bool ShareManagerSrvProxy::CallbackRequest(const LogSite& site, const RequestTexts& texts, uint32_t code,
-                                           const sptr<Callback>& callback)
-{
-    if (callback == nullptr) {
-        SHARE_LOG_AT(SHARE_MANAGER_PROXY_LABEL, LOG_ERROR, site, "The parameter callback is nullptr.");
-        return false;
-    }
-    return BoolRequest(site, texts, code,
-                       [&callback](ProxyRequest& req) { return req.WriteObject(callback, WRITE_CALLBACK_FAILED); });
+    return request.Open(Remote(), GetDescriptor());
 }
 
 bool ShareManagerSrvProxy::SetShareEnable(int32_t type, int32_t state, bool enable)
 {
-    return BoolRequest(SHARE_LOG_SITE, Debug("Enable() Enter", "Enable() Exit"), SET_SHARE_ENABLE,
-                       [&](ProxyRequest& req) {
-                           MessageParcel& data = req.Data();
-                           data.WriteInt32(type);
-                           data.WriteInt32(state);
-                           data.WriteBool(enable);
-                           return true;
-                       });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("Enable() Enter", "Enable() Exit"));
+    return Open(req) && req.Put(type, state, enable) && req.Send(Code::SET_SHARE_ENABLE) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::SetShareEnableWithConfirm(int32_t type, int32_t state, bool enable, bool confirm)
 {
-    return BoolRequest(SHARE_LOG_SITE, Debug("EnableWithConfirm() Enter", "EnableWithConfirm() Exit"),
-                       SET_SHARE_ENABLE_WITH_CONFIRM, [&](ProxyRequest& req) {
-                           MessageParcel& data = req.Data();
-                           data.WriteInt32(type);
-                           data.WriteInt32(state);
-                           data.WriteBool(enable);
-                           data.WriteBool(confirm);
-                           return true;
-                       });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("EnableWithConfirm() Enter", "EnableWithConfirm() Exit"));
+    return Open(req) && req.Put(type, state, enable, confirm) && req.Send(Code::SET_SHARE_ENABLE_WITH_CONFIRM) &&
+           req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::IsEnabled()
 {
-    return PlainRequest(SHARE_LOG_SITE, Debug("IsEnabled() Enter", "IsEnabled() Exit"), IS_ENABLED);
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("IsEnabled() Enter", "IsEnabled() Exit"));
+    return Open(req) && req.Send(Code::IS_ENABLED) && req.ReplyBool();
 }
 
 int32_t ShareManagerSrvProxy::GetEnableState()
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("GetEnableState() Enter", "GetEnableState() Exit"));
-    if (!req.Start(Remote(), GetDescriptor()) || !req.Send(GET_ENABLE_STATE)) {
-        return 0;
-    }
-    return req.Reply().ReadInt32();
+    return Open(req) && req.Send(Code::GET_ENABLE_STATE) ? req.Reply().ReadInt32() : 0;
 }
 
 bool ShareManagerSrvProxy::IsFocusPidsRegisterSwing()
 {
-    return PlainRequest(SHARE_LOG_SITE, Debug(nullptr, nullptr), IS_FOCUS_PIDS_REGISTER_SWING);
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug(nullptr, nullptr));
+    return Open(req) && req.Send(Code::IS_FOCUS_PIDS_REGISTER_SWING) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::RegisterWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback)
 {
-    return CallbackRequest(SHARE_LOG_SITE, Debug("RegisterWidgetCallback() Enter", "RegisterWidgetCallback() Exit"),
-                           REGISTER_WIDGET_CALLBACK, callback);
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
+                     Debug("RegisterWidgetCallback() Enter", "RegisterWidgetCallback() Exit"), NullCallback(callback));
+    return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) && req.Send(Code::REGISTER_WIDGET_CALLBACK) &&
+           req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::UnRegisterWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback)
 {
-    return CallbackRequest(SHARE_LOG_SITE, Debug("UnRegisterWidgetCallback() Enter", "UnRegisterWidgetCallback() Exit"),
-                           UNREGISTER_WIDGET_CALLBACK, callback);
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
+                     Debug("UnRegisterWidgetCallback() Enter", "UnRegisterWidgetCallback() Exit"),
+                     NullCallback(callback));
+    return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) &&
+           req.Send(Code::UNREGISTER_WIDGET_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::StartDiscovery()
 {
-    return PlainRequest(SHARE_LOG_SITE, Debug("StartDiscovery() Enter", "StartDiscovery() Exit"), START_DISCOVERY);
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("StartDiscovery() Enter", "StartDiscovery() Exit"));
+    return Open(req) && req.Send(Code::START_DISCOVERY) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::StopDiscovery()
 {
-    return PlainRequest(SHARE_LOG_SITE, Debug("StopDiscovery() Enter", "StopDiscovery() Exit"), STOP_DISCOVERY);
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("StopDiscovery() Enter", "StopDiscovery() Exit"));
+    return Open(req) && req.Send(Code::STOP_DISCOVERY) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::StartConnect()
 {
-    return PlainRequest(SHARE_LOG_SITE, Debug("StartConnect() Enter", "StartConnect() Exit"), START_CONNECT);
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("StartConnect() Enter", "StartConnect() Exit"));
+    return Open(req) && req.Send(Code::START_CONNECT) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::StopConnect()
 {
-    return PlainRequest(SHARE_LOG_SITE, Debug("StopConnect() Enter", "StopConnect() Exit"), STOP_CONNECT);
-}
-
-bool ShareManagerSrvProxy::RequestDeviceList(ProxyRequest& request, uint32_t code, const char* prefix,
-                                             std::vector<ShareDeviceInfo>& devices)
-{
-    return request.Start(Remote(), GetDescriptor()) && request.Transact(code) &&
-           ReadDeviceList(request.Reply(), devices, request.Site(), prefix);
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("StopConnect() Enter", "StopConnect() Exit"));
+    return Open(req) && req.Send(Code::STOP_CONNECT) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::ReadDeviceList(MessageParcel& reply, std::vector<ShareDeviceInfo>& devices,
@@ -166,7 +144,8 @@ std::vector<ShareDeviceInfo> ShareManagerSrvProxy::GetAllUserList()
     std::vector<ShareDeviceInfo> devices;
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"GetAllUserList Enter", LOG_DEBUG, nullptr, LOG_DEBUG, ALL_USER_LIST_PREFIX});
-    if (RequestDeviceList(req, GET_ALL_USER_LIST, ALL_USER_LIST_PREFIX, devices)) {
+    if (Open(req) && req.Transact(Code::GET_ALL_USER_LIST) &&
+        ReadDeviceList(req.Reply(), devices, req.Site(), ALL_USER_LIST_PREFIX)) {
         SHARE_MANAGER_PROXY_LOGD("GetAllUserList Exit size %{public}zu", devices.size());
     }
     return devices;
@@ -176,7 +155,8 @@ std::vector<ShareDeviceInfo> ShareManagerSrvProxy::GetSendingUserList()
 {
     std::vector<ShareDeviceInfo> devices;
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("GetSendingUserList Enter", "GetSendingUserList Exit"));
-    if (RequestDeviceList(req, GET_SENDING_USER_LIST, "", devices)) {
+    if (Open(req) && req.Transact(Code::GET_SENDING_USER_LIST) &&
+        ReadDeviceList(req.Reply(), devices, req.Site(), "")) {
         req.LogExit();
     }
     return devices;
@@ -184,75 +164,76 @@ std::vector<ShareDeviceInfo> ShareManagerSrvProxy::GetSendingUserList()
 
 bool ShareManagerSrvProxy::PrepareSend(const ShareDeviceInfo& deviceInfo)
 {
-    return BoolRequest(
-        SHARE_LOG_SITE, Debug("PrepareSend() Enter", "PrepareSend() Exit"), PREPARE_SEND,
-        [&](ProxyRequest& req) { return req.Check(deviceInfo.WriteToParcel(req.Data()), WRITE_SHARE_DEVICE_FAILED); });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("PrepareSend() Enter", "PrepareSend() Exit"));
+    return Open(req) && req.Check(deviceInfo.WriteToParcel(req.Data()), WRITE_SHARE_DEVICE_FAILED) &&
+           req.Send(Code::PREPARE_SEND) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::Send(const ShareDeviceInfo& deviceInfo, SendBean& sendBean, const std::string& packageName)
 {
-    return BoolRequest(SHARE_LOG_SITE, Debug("Send() Enter", "Send() Exit"), SEND, [&](ProxyRequest& req) {
-        MessageParcel& data = req.Data();
-        return req.Check(deviceInfo.WriteToParcel(data), WRITE_DEVICE_INFO_FAILED) &&
-               req.Check(sendBean.WriteToParcel(data), WRITE_SEND_BEAN_FAILED) &&
-               req.Check(data.WriteString(packageName), WRITE_PACKAGE_NAME_FAILED);
-    });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("Send() Enter", "Send() Exit"));
+    MessageParcel& data = req.Data();
+    return Open(req) && req.Check(deviceInfo.WriteToParcel(data), WRITE_DEVICE_INFO_FAILED) &&
+           req.Check(sendBean.WriteToParcel(data), WRITE_SEND_BEAN_FAILED) &&
+           req.Check(data.WriteString(packageName), WRITE_PACKAGE_NAME_FAILED) && req.Send(Code::SEND) &&
+           req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::SendFile(const ShareDeviceInfo& deviceInfo, const DataBean& dataBean,
                                     const std::string& packageName)
 {
     // A failed DataBean write keeps the sendBean text: the service's log readers match on it.
-    return BoolRequest(SHARE_LOG_SITE, Debug("SendFile() Enter", "SendFile() Exit"), SEND_FILE, [&](ProxyRequest& req) {
-        MessageParcel& data = req.Data();
-        return req.Check(deviceInfo.WriteToParcel(data), WRITE_DEVICE_INFO_FAILED) &&
-               req.Check(dataBean.WriteToParcel(data), WRITE_SEND_BEAN_FAILED) &&
-               req.Check(data.WriteString(packageName), WRITE_PACKAGE_NAME_FAILED);
-    });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("SendFile() Enter", "SendFile() Exit"));
+    MessageParcel& data = req.Data();
+    return Open(req) && req.Check(deviceInfo.WriteToParcel(data), WRITE_DEVICE_INFO_FAILED) &&
+           req.Check(dataBean.WriteToParcel(data), WRITE_SEND_BEAN_FAILED) &&
+           req.Check(data.WriteString(packageName), WRITE_PACKAGE_NAME_FAILED) && req.Send(Code::SEND_FILE) &&
+           req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::SendBytes(const ShareDeviceInfo& deviceInfo, const BytesInfo& bytesInfo)
 {
-    return BoolRequest(SHARE_LOG_SITE, Debug("SendBytes() Enter", "SendBytes() Exit"), SEND_BYTES,
-                       [&](ProxyRequest& req) {
-                           MessageParcel& data = req.Data();
-                           return req.Check(deviceInfo.WriteToParcel(data), WRITE_DEVICE_INFO_FAILED) &&
-                                  req.Check(bytesInfo.WriteToParcel(data), "Write bytesInfo failed");
-                       });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("SendBytes() Enter", "SendBytes() Exit"));
+    MessageParcel& data = req.Data();
+    return Open(req) && req.Check(deviceInfo.WriteToParcel(data), WRITE_DEVICE_INFO_FAILED) &&
+           req.Check(bytesInfo.WriteToParcel(data), "Write bytesInfo failed") && req.Send(Code::SEND_BYTES) &&
+           req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::Cancel(const ShareDeviceInfo& deviceInfo)
 {
-    return BoolRequest(SHARE_LOG_SITE, Debug("Cancel() Enter", "Cancel() Exit"), CANCEL, [&](ProxyRequest& req) {
-        return req.Check(deviceInfo.WriteToParcel(req.Data()), WRITE_SHARE_DEVICE_FAILED);
-    });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("Cancel() Enter", "Cancel() Exit"));
+    return Open(req) && req.Check(deviceInfo.WriteToParcel(req.Data()), WRITE_SHARE_DEVICE_FAILED) &&
+           req.Send(Code::CANCEL) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::RegisterSenderActionCallback(const sptr<ISenderActionCallback>& callback)
 {
-    return CallbackRequest(SHARE_LOG_SITE,
-                           Debug("RegisterSenderActionCallback() Enter", "RegisterSenderActionCallback() Exit"),
-                           REGISTER_SENDER_ACTION_CALLBACK, callback);
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
+                     Debug("RegisterSenderActionCallback() Enter", "RegisterSenderActionCallback() Exit"),
+                     NullCallback(callback));
+    return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) &&
+           req.Send(Code::REGISTER_SENDER_ACTION_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::UnRegisterSenderActionCallback(const sptr<ISenderActionCallback>& callback)
 {
-    return CallbackRequest(SHARE_LOG_SITE,
-                           Debug("UnRegisterSenderActionCallback() Enter", "UnRegisterSenderActionCallback() Exit"),
-                           UNREGISTER_SENDER_ACTION_CALLBACK, callback);
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
+                     Debug("UnRegisterSenderActionCallback() Enter", "UnRegisterSenderActionCallback() Exit"),
+                     NullCallback(callback));
+    return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) &&
+           req.Send(Code::UNREGISTER_SENDER_ACTION_CALLBACK) && req.ReplyBool();
 }
 
 sptr<ZelkonReceiver> ShareManagerSrvProxy::GetReceiverActionCallback()
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      Debug("GetReceiverActionCallback() Enter", "GetReceiverActionCallback() Exit"));
-    if (!req.Start(Remote(), GetDescriptor()) || !req.Transact(GET_RECEIVER_ACTION_CALLBACK)) {
+    if (!Open(req) || !req.Transact(Code::GET_RECEIVER_ACTION_CALLBACK)) {
         return nullptr;
     }
     sptr<ZelkonReceiver> receiver = iface_cast<ZelkonReceiver>(req.Reply().ReadRemoteObject());
-    if (receiver == nullptr) {
-        req.LogError("Read remote object error.");
-    } else {
+    if (req.Check(receiver != nullptr, "Read remote object error.")) {
         req.LogExit();
     }
     return receiver;
@@ -262,7 +243,7 @@ std::string ShareManagerSrvProxy::GetPreviewData()
 {
     std::string result;
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("GetPreviewData() Enter", "GetPreviewData() Exit"));
-    if (!req.Start(Remote(), GetDescriptor()) || !req.Transact(GET_PREVIEW_DATA)) {
+    if (!Open(req) || !req.Transact(Code::GET_PREVIEW_DATA)) {
         return result;
     }
     if (ReadBigString(req.Reply(), result)) {
@@ -278,11 +259,9 @@ ShareAccountInfo ShareManagerSrvProxy::GetAccountInfo()
 {
     ShareAccountInfo account;
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("GetAccountInfo() Enter", "GetAccountInfo() Exit"));
-    if (!req.Start(Remote(), GetDescriptor()) || !req.Transact(GET_ACCOUNT_INFO)) {
-        return account;
-    }
     // A record that fails half way is returned as far as it was read.
-    if (req.Check(account.ReadFromParcel(req.Reply()), "Read share accout failed.")) {
+    if (Open(req) && req.Transact(Code::GET_ACCOUNT_INFO) &&
+        req.Check(account.ReadFromParcel(req.Reply()), "Read share accout failed.")) {
         req.LogExit();
     }
     return account;
@@ -290,110 +269,96 @@ ShareAccountInfo ShareManagerSrvProxy::GetAccountInfo()
 
 bool ShareManagerSrvProxy::SetShareAccountPermission(int32_t permission)
 {
-    return BoolRequest(SHARE_LOG_SITE, Debug("SetShareAccountPermission() Enter", "SetShareAccountPermission() Exit"),
-                       SET_SHARE_ACCOUNT_PERMISSION, [permission](ProxyRequest& req) {
-                           req.Data().WriteInt32(permission);
-                           return true;
-                       });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
+                     Debug("SetShareAccountPermission() Enter", "SetShareAccountPermission() Exit"));
+    return Open(req) && req.Put(permission) && req.Send(Code::SET_SHARE_ACCOUNT_PERMISSION) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::RegisterVxShareApiWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback)
 {
-    return CallbackRequest(SHARE_LOG_SITE, BARE_INFO, REGISTER_VX_SHARE_API_WIDGET_CALLBACK, callback);
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO, NullCallback(callback));
+    return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) &&
+           req.Send(Code::REGISTER_VX_SHARE_API_WIDGET_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::UnRegisterVxShareApiWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback)
 {
-    return CallbackRequest(SHARE_LOG_SITE, BARE_INFO, UNREGISTER_VX_SHARE_API_WIDGET_CALLBACK, callback);
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO, NullCallback(callback));
+    return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) &&
+           req.Send(Code::UNREGISTER_VX_SHARE_API_WIDGET_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::RegisterVxShareApiEvent(const std::string& event)
 {
-    return BoolRequest(SHARE_LOG_SITE, BARE_INFO, REGISTER_VX_SHARE_API_EVENT, [&event](ProxyRequest& req) {
-        return req.Check(req.Data().WriteString(event), WRITE_STRING_FAILED);
-    });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO);
+    return Open(req) && req.Check(req.Data().WriteString(event), WRITE_STRING_FAILED) &&
+           req.Send(Code::REGISTER_VX_SHARE_API_EVENT) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::UnRegisterVxShareApiEvent(const std::string& event)
 {
-    return BoolRequest(SHARE_LOG_SITE, BARE_INFO, UNREGISTER_VX_SHARE_API_EVENT, [&event](ProxyRequest& req) {
-        return req.Check(req.Data().WriteString(event), WRITE_STRING_FAILED);
-    });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO);
+    return Open(req) && req.Check(req.Data().WriteString(event), WRITE_STRING_FAILED) &&
+           req.Send(Code::UNREGISTER_VX_SHARE_API_EVENT) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::NotifyInfo(const ShareDeviceInfo& deviceInfo, int32_t info)
 {
-    return BoolRequest(SHARE_LOG_SITE, Debug("NotifyInfo() Enter", "NotifyInfo() Exit"), NOTIFY_INFO,
-                       [&](ProxyRequest& req) {
-                           MessageParcel& data = req.Data();
-                           if (!req.Check(deviceInfo.WriteToParcel(data), WRITE_SHARE_DEVICE_FAILED)) {
-                               return false;
-                           }
-                           data.WriteInt32(info);
-                           return true;
-                       });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("NotifyInfo() Enter", "NotifyInfo() Exit"));
+    return Open(req) && req.Check(deviceInfo.WriteToParcel(req.Data()), WRITE_SHARE_DEVICE_FAILED) && req.Put(info) &&
+           req.Send(Code::NOTIFY_INFO) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::ApplyUriPermission(const std::string& packageName)
 {
-    return BoolRequest(SHARE_LOG_SITE, Debug("ApplyUriPermission() Enter", "ApplyUriPermission() Exit"),
-                       APPLY_URI_PERMISSION, [&packageName](ProxyRequest& req) {
-                           return req.Check(req.Data().WriteString(packageName), WRITE_PACKAGE_NAME_FAILED);
-                       });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("ApplyUriPermission() Enter", "ApplyUriPermission() Exit"));
+    return Open(req) && req.Check(req.Data().WriteString(packageName), WRITE_PACKAGE_NAME_FAILED) &&
+           req.Send(Code::APPLY_URI_PERMISSION) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::SwingConfirm(const ShareDeviceInfo& deviceInfo, int32_t confirm)
 {
-    return BoolRequest(SHARE_LOG_SITE, Debug("SwingConfirm() Enter", "SwingConfirm() Exit"), SWING_CONFIRM,
-                       [&](ProxyRequest& req) {
-                           MessageParcel& data = req.Data();
-                           if (!req.Check(deviceInfo.WriteToParcel(data), WRITE_SHARE_DEVICE_FAILED)) {
-                               return false;
-                           }
-                           data.WriteInt32(confirm);
-                           return true;
-                       });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("SwingConfirm() Enter", "SwingConfirm() Exit"));
+    return Open(req) && req.Check(deviceInfo.WriteToParcel(req.Data()), WRITE_SHARE_DEVICE_FAILED) &&
+           req.Put(confirm) && req.Send(Code::SWING_CONFIRM) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::IsAppForeground(const std::string& packageName)
 {
-    return BoolRequest(SHARE_LOG_SITE, Debug("IsAppForeground() Enter", "IsAppForeground() Exit"), IS_APP_FOREGROUND,
-                       [&packageName](ProxyRequest& req) {
-                           return req.Check(req.Data().WriteString(packageName), WRITE_PACKAGE_NAME_FAILED);
-                       });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("IsAppForeground() Enter", "IsAppForeground() Exit"));
+    return Open(req) && req.Check(req.Data().WriteString(packageName), WRITE_PACKAGE_NAME_FAILED) &&
+           req.Send(Code::IS_APP_FOREGROUND) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::RegisterShareApiCallback(const sptr<ZelkonApiCallback>& callback)
 {
-    return CallbackRequest(SHARE_LOG_SITE, BARE_INFO, REGISTER_SHARE_API_CALLBACK, callback);
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO, NullCallback(callback));
+    return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) &&
+           req.Send(Code::REGISTER_SHARE_API_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::UnregisterShareApiCallback(const sptr<ZelkonApiCallback>& callback)
 {
-    // The one callback request without the null check: a null callback here is the caller's error.
-    // A null one fails as an unwritable object instead of crashing.
-    return BoolRequest(SHARE_LOG_SITE, BARE_INFO, UNREGISTER_SHARE_API_CALLBACK, [&callback](ProxyRequest& req) {
-        return callback != nullptr ? req.WriteObject(callback, WRITE_CALLBACK_FAILED)
-                                   : req.Check(false, WRITE_CALLBACK_FAILED);
-    });
+    // The one callback request without the null check: a null callback is the caller's error. It fails as an
+    // unwritable object instead of crashing.
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO);
+    return Open(req) &&
+           (callback != nullptr ? req.WriteObject(callback, WRITE_CALLBACK_FAILED)
+                                : req.Check(false, WRITE_CALLBACK_FAILED)) &&
+           req.Send(Code::UNREGISTER_SHARE_API_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::RegisterShareEventCallback(int32_t eventType, int32_t eventId)
 {
-    return BoolRequest(SHARE_LOG_SITE, BARE_INFO, REGISTER_SHARE_EVENT_CALLBACK, [=](ProxyRequest& req) {
-        req.Data().WriteInt32(eventType);
-        req.Data().WriteInt32(eventId);
-        return true;
-    });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO);
+    return Open(req) && req.Put(eventType, eventId) && req.Send(Code::REGISTER_SHARE_EVENT_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::UnregisterShareEventCallback(int32_t eventType, int32_t eventId)
 {
-    return BoolRequest(SHARE_LOG_SITE, BARE_INFO, UNREGISTER_SHARE_EVENT_CALLBACK, [=](ProxyRequest& req) {
-        req.Data().WriteInt32(eventType);
-        req.Data().WriteInt32(eventId);
-        return true;
-    });
+    ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO);
+    return Open(req) && req.Put(eventType, eventId) && req.Send(Code::UNREGISTER_SHARE_EVENT_CALLBACK) &&
+           req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::ReadBigString(MessageParcel& parcel, std::string& out) const

@@ -15,32 +15,54 @@ const RequestLabels PROXY_LABELS{SHARE_PROXY_LABEL, SHARE_PROXY_LABEL};
 const RequestLabels SEND_FILE_LABELS{SHARE_PROXY_LABEL, SHARE_CLIENT_LABEL};
 const char* const WRITE_LISTENER_FAILED = "Write RemoteObject failed";
 const char* const WRITE_CALLBACK_FAILED = "Write transCallback failed";
+using Code = ZelkonServiceCode;
+
+// The fields of a transfer's parameters that both transfer layouts carry, with the same texts, logged at the site of
+// the writer.
+bool WriteDestination(MessageParcel& data, const TransmitParam& param, const LogSite& site)
+{
+    return LoggedCheck(data.WriteString(param.deviceId), SHARE_PROXY_LABEL, site, "Write deviceId failed.") &&
+           LoggedCheck(data.WriteInt32(param.timeout), SHARE_PROXY_LABEL, site, "Write timeout failed.");
+}
+
+bool WriteTransCallback(MessageParcel& data, const TransmitParam& param, const LogSite& site)
+{
+    return LoggedCheck(data.WriteRemoteObject(param.transCallback->AsObject()), SHARE_PROXY_LABEL, site,
+                       WRITE_CALLBACK_FAILED);
+}
+
+bool WriteEventType(MessageParcel& data, const TransmitParam& param, const LogSite& site)
+{
+    // The 8-bit value travels sign-extended in one word.
+    return LoggedCheck(data.WriteInt8(static_cast<int8_t>(param.transmitEventType)), SHARE_PROXY_LABEL, site,
+                       "Write TransmitEventType failed.");
+}
 } // namespace
 
-bool ShareSrvProxy::Start(ProxyRequest& request)
+bool ShareSrvProxy::Open(ProxyRequest& request)
 {
-    return request.Start(Remote(), GetDescriptor());
+    return request.Open(Remote(), GetDescriptor());
 }
 
 int32_t ShareSrvProxy::PublishDevice(const sptr<IPublishListener>& listener)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, {"Publish() Enter", LOG_DEBUG, "Publish() Exit", LOG_DEBUG});
-    return Start(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(PUBLISH_DEVICE) &&
+    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::PUBLISH_DEVICE) &&
            req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::UnPublishDevice(int32_t publishId, const sptr<IPublishListener>& listener)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, {"UnPublish() Enter", LOG_DEBUG, "UnPublish() Exit", LOG_DEBUG});
-    return Start(req) && req.Check(req.Data().WriteInt32(publishId), "Write publishId failed") &&
-           req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(UNPUBLISH_DEVICE) && req.ReplyBool();
+    return Open(req) && req.Check(req.Data().WriteInt32(publishId), "Write publishId failed") &&
+           req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::UNPUBLISH_DEVICE) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::SubscribeDevice(const sptr<ISubscribeListener>& listener)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"SubscribeDevice() Enter", LOG_DEBUG, "SubscribeDevice() Exit", LOG_DEBUG});
-    return Start(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(SUBSCRIBE_DEVICE) &&
+    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::SUBSCRIBE_DEVICE) &&
            req.ReplyBool();
 }
 
@@ -48,15 +70,15 @@ int32_t ShareSrvProxy::UnSubscribeDevice(int32_t subscribeId, const sptr<ISubscr
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"UnSubscribeDevice() Enter", LOG_DEBUG, "UnSubscribeDevice() Exit", LOG_DEBUG});
-    return Start(req) && req.Check(req.Data().WriteInt32(subscribeId), "Write subscribeId failed") &&
-           req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(UNSUBSCRIBE_DEVICE) && req.ReplyBool();
+    return Open(req) && req.Check(req.Data().WriteInt32(subscribeId), "Write subscribeId failed") &&
+           req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::UNSUBSCRIBE_DEVICE) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::RegisterReceiveListener(const sptr<ZelkonReceiveListener>& listener)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"RegisterReceiveListener() Enter", LOG_DEBUG, "RegisterReceiveListener() Exit", LOG_DEBUG});
-    return Start(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(REGISTER_RECEIVE_LISTENER) &&
+    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::REGISTER_RECEIVE_LISTENER) &&
            req.ReplyBool();
 }
 
@@ -65,33 +87,16 @@ int32_t ShareSrvProxy::UnRegisterReceiveListener(const sptr<ZelkonReceiveListene
     // The unregister request logs the register exit text; services' log readers rely on it.
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"UnRegisterReceiveListener() Enter", LOG_DEBUG, "RegisterReceiveListener() Exit", LOG_DEBUG});
-    return Start(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(UNREGISTER_RECEIVE_LISTENER) &&
-           req.ReplyBool();
+    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) &&
+           req.Send(Code::UNREGISTER_RECEIVE_LISTENER) && req.ReplyBool();
 }
 
 bool ShareSrvProxy::WriteParcelForSend(const TransmitParam& param, const std::string& packageName, MessageParcel& data)
 {
-    if (!data.WriteString(param.deviceId)) {
-        SHARE_PROXY_LOGE("Write deviceId failed.");
-        return false;
-    }
-    if (!data.WriteInt32(param.timeout)) {
-        SHARE_PROXY_LOGE("Write timeout failed.");
-        return false;
-    }
-    if (!data.WriteRemoteObject(param.transCallback->AsObject())) {
-        SHARE_PROXY_LOGE("Write transCallback failed");
-        return false;
-    }
-    if (!data.WriteString(packageName)) {
-        SHARE_PROXY_LOGE("Write packageName failed.");
-        return false;
-    }
-    if (!data.WriteInt8(static_cast<int8_t>(param.transmitEventType))) {
-        SHARE_PROXY_LOGE("Write TransmitEventType failed.");
-        return false;
-    }
-    return true;
+    const LogSite site = SHARE_LOG_SITE;
+    return WriteDestination(data, param, site) && WriteTransCallback(data, param, site) &&
+           LoggedCheck(data.WriteString(packageName), SHARE_PROXY_LABEL, site, "Write packageName failed.") &&
+           WriteEventType(data, param, site);
 }
 
 sptr<ZelkonSender> ShareSrvProxy::ReadSender(ProxyRequest& request)
@@ -102,11 +107,11 @@ sptr<ZelkonSender> ShareSrvProxy::ReadSender(ProxyRequest& request)
 }
 
 template <typename Bean>
-sptr<ZelkonSender> ShareSrvProxy::SendFileRequest(ProxyRequest& request, uint32_t code, const TransmitParam& param,
-                                                  const Bean& bean, const std::string& packageName,
-                                                  const char* beanFailure)
+sptr<ZelkonSender> ShareSrvProxy::SendFileRequest(ProxyRequest& request, ZelkonServiceCode code,
+                                                  const TransmitParam& param, const Bean& bean,
+                                                  const std::string& packageName, const char* beanFailure)
 {
-    if (!Start(request) ||
+    if (!Open(request) ||
         !request.Check(WriteParcelForSend(param, packageName, request.Data()), "Write param failed.") ||
         !request.Check(bean.WriteToParcel(request.Data()), beanFailure) || !request.Send(code)) {
         return nullptr;
@@ -119,7 +124,7 @@ sptr<ZelkonSender> ShareSrvProxy::SendFile(const TransmitParam& param, SendBean&
 {
     ProxyRequest req(SEND_FILE_LABELS, SHARE_LOG_SITE,
                      {"send file with preview info enter!", LOG_DEBUG, "send file with preview info exit!", LOG_DEBUG});
-    return SendFileRequest(req, SEND_FILE_WITH_SEND_BEAN, param, sendBean, packageName, "Write sendBean failed.");
+    return SendFileRequest(req, Code::SEND_FILE_WITH_SEND_BEAN, param, sendBean, packageName, "Write sendBean failed.");
 }
 
 sptr<ZelkonSender> ShareSrvProxy::SendFile(const TransmitParam& param, const DataBean& dataBean,
@@ -127,7 +132,7 @@ sptr<ZelkonSender> ShareSrvProxy::SendFile(const TransmitParam& param, const Dat
 {
     ProxyRequest req(SEND_FILE_LABELS, SHARE_LOG_SITE,
                      {"send file with data bean enter!", LOG_DEBUG, "send file with data bean exit!", LOG_DEBUG});
-    return SendFileRequest(req, SEND_FILE_WITH_DATA_BEAN, param, dataBean, packageName, "Write SendBean failed.");
+    return SendFileRequest(req, Code::SEND_FILE_WITH_DATA_BEAN, param, dataBean, packageName, "Write SendBean failed.");
 }
 
 sptr<ZelkonSender> ShareSrvProxy::SendBytes(const TransmitParam& param, const BytesInfo& bytesInfo)
@@ -136,12 +141,10 @@ sptr<ZelkonSender> ShareSrvProxy::SendBytes(const TransmitParam& param, const By
     // follows the reply.
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, {"SendBytes() Enter", LOG_DEBUG, "SendBytes() Exit", LOG_DEBUG});
     MessageParcel& data = req.Data();
-    if (!Start(req) || !req.Check(data.WriteString(param.deviceId), "Write deviceId failed.") ||
-        !req.Check(data.WriteInt32(param.timeout), "Write timeout failed.") ||
+    if (!Open(req) || !WriteDestination(data, param, req.Site()) ||
         !req.Check(bytesInfo.WriteToParcel(data), "Write BytesInfo failed.") ||
-        !req.WriteObject(param.transCallback, WRITE_CALLBACK_FAILED) ||
-        !req.Check(data.WriteInt8(static_cast<int8_t>(param.transmitEventType)), "Write TransmitEventType failed.") ||
-        !req.Transact(SEND_BYTES)) {
+        !WriteTransCallback(data, param, req.Site()) || !WriteEventType(data, param, req.Site()) ||
+        !req.Transact(Code::SEND_BYTES)) {
         return nullptr;
     }
     sptr<ZelkonSender> sender = ReadSender(req);
@@ -160,7 +163,7 @@ sptr<ZelkonSender> ShareSrvProxy::CommonShareSend(CommonShareObject& shareObject
     req.Data().SetMaxCapacity(COMMON_SHARE_CAPACITY);
     if (!req.WriteToken(GetDescriptor()) ||
         !req.Check(shareObject.WriteToParcel(req.Data()), "Write CommonShareObject failed.") ||
-        !req.WriteObject(callback, WRITE_CALLBACK_FAILED) || !req.Transact(COMMON_SHARE_SEND)) {
+        !req.WriteObject(callback, WRITE_CALLBACK_FAILED) || !req.Transact(Code::COMMON_SHARE_SEND)) {
         return nullptr;
     }
     return ReadSender(req);
@@ -169,28 +172,28 @@ sptr<ZelkonSender> ShareSrvProxy::CommonShareSend(CommonShareObject& shareObject
 void ShareSrvProxy::Cancel(std::string networkId)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, {"Cancel start.", LOG_DEBUG, nullptr, LOG_DEBUG});
-    if (!Start(req)) {
+    if (!Open(req)) {
         return;
     }
     // The cancel is attempted even when the network id could not be written.
     req.Check(req.Data().WriteString(networkId), "Write networkId failed.");
-    req.Transact(CANCEL);
+    req.Transact(Code::CANCEL);
 }
 
 int32_t ShareSrvProxy::EnableDiscoveryPolicy(int32_t policy)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"EnableDiscoveryPolicy() Enter", LOG_DEBUG, "EnableDiscoveryPolicy() Exit", LOG_DEBUG});
-    return Start(req) && req.Check(req.Data().WriteInt32(policy), WRITE_LISTENER_FAILED) &&
-           req.Send(ENABLE_DISCOVERY_POLICY) && req.ReplyBool();
+    return Open(req) && req.Check(req.Data().WriteInt32(policy), WRITE_LISTENER_FAILED) &&
+           req.Send(Code::ENABLE_DISCOVERY_POLICY) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::SetAccountPermission(int32_t permission)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"SetAccountPermission() Enter", LOG_DEBUG, "SetAccountPermission() Exit", LOG_DEBUG});
-    return Start(req) && req.Check(req.Data().WriteInt32(permission), WRITE_LISTENER_FAILED) &&
-           req.Send(SET_ACCOUNT_PERMISSION) && req.ReplyBool();
+    return Open(req) && req.Check(req.Data().WriteInt32(permission), WRITE_LISTENER_FAILED) &&
+           req.Send(Code::SET_ACCOUNT_PERMISSION) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::RegisterCommonReceiveListener(const sptr<ICommonReceiveListener>& listener)
@@ -200,7 +203,7 @@ int32_t ShareSrvProxy::RegisterCommonReceiveListener(const sptr<ICommonReceiveLi
         {"RegisterCommonReceiveListener() Enter", LOG_DEBUG, "RegisterCommonReceiveListener() Exit", LOG_DEBUG});
     return req.HasRemote(Remote()) && req.Check(listener != nullptr, "listener return nullptr.") &&
            req.WriteToken(GetDescriptor()) && req.WriteObject(listener, WRITE_LISTENER_FAILED) &&
-           req.Send(REGISTER_COMMON_RECEIVE_LISTENER) && req.ReplyBool();
+           req.Send(Code::REGISTER_COMMON_RECEIVE_LISTENER) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::UnRegisterCommonReceiveListener()
@@ -208,23 +211,23 @@ int32_t ShareSrvProxy::UnRegisterCommonReceiveListener()
     ProxyRequest req(
         PROXY_LABELS, SHARE_LOG_SITE,
         {"UnRegisterCommonReceiveListener() Enter", LOG_DEBUG, "UnRegisterCommonReceiveListener() Exit", LOG_DEBUG});
-    return Start(req) && req.Send(UNREGISTER_COMMON_RECEIVE_LISTENER) && req.ReplyBool();
+    return Open(req) && req.Send(Code::UNREGISTER_COMMON_RECEIVE_LISTENER) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::SuspendWifiScanning(const std::string& ifName)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"SuspendWifiScanning() Enter", LOG_INFO, "SuspendWifiScanning() Exit", LOG_DEBUG});
-    return Start(req) && req.Check(req.Data().WriteString(ifName), "Write ifName failed.") &&
-           req.Send(SUSPEND_WIFI_SCANNING) && req.ReplyBool();
+    return Open(req) && req.Check(req.Data().WriteString(ifName), "Write ifName failed.") &&
+           req.Send(Code::SUSPEND_WIFI_SCANNING) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::ResumeWifiScanning(const std::string& ifName)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"ResumeWifiScanning() Enter", LOG_INFO, "ResumeWifiScanning() Exit", LOG_DEBUG});
-    return Start(req) && req.Check(req.Data().WriteString(ifName), "Write ifName failed.") &&
-           req.Send(RESUME_WIFI_SCANNING) && req.ReplyBool();
+    return Open(req) && req.Check(req.Data().WriteString(ifName), "Write ifName failed.") &&
+           req.Send(Code::RESUME_WIFI_SCANNING) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::OnCollabDeviceFound(const sptr<ShareDevice>& device, const sptr<ISubscribeListener>& listener,
@@ -233,27 +236,27 @@ int32_t ShareSrvProxy::OnCollabDeviceFound(const sptr<ShareDevice>& device, cons
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"OnCollabDeviceFound() Enter", LOG_INFO, "OnCollabDeviceFound() Exit", LOG_DEBUG});
     // The flag travels as an int32 word: the service reads the same four bytes.
-    return Start(req) &&
+    return Open(req) &&
            req.Check(req.Data().WriteStrongParcelable(sptr<Parcelable>(device)), "Write ShareDevice failed") &&
            req.WriteObject(listener, WRITE_LISTENER_FAILED) &&
            req.Check(req.Data().WriteInt32(static_cast<int32_t>(updateFlag)), "Write updateFlag failed") &&
-           req.Send(ON_COLLAB_DEVICE_FOUND) && req.ReplyBool();
+           req.Send(Code::ON_COLLAB_DEVICE_FOUND) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::ClearDiscovererFlag(const std::string& deviceId, uint32_t flag)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"ClearDiscovererFlag() Enter", LOG_INFO, "ClearDiscovererFlag() Exit", LOG_DEBUG});
-    return Start(req) && req.Check(req.Data().WriteString(deviceId), "Write deviceId failed.") &&
+    return Open(req) && req.Check(req.Data().WriteString(deviceId), "Write deviceId failed.") &&
            req.Check(req.Data().WriteUint32(flag), "Write discoverer flag failed.") &&
-           req.Send(CLEAR_DISCOVERER_FLAG) && req.ReplyBool();
+           req.Send(Code::CLEAR_DISCOVERER_FLAG) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::GetPontalPublishInfo(std::string& publishInfo)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"GetPontalPublishInfo() Enter", LOG_INFO, "GetPontalPublishInfo() Exit", LOG_DEBUG});
-    if (!Start(req) || !req.Transact(GET_PONTAL_PUBLISH_INFO)) {
+    if (!Open(req) || !req.Transact(Code::GET_PONTAL_PUBLISH_INFO)) {
         return false;
     }
     // The string is handed over whatever the flag after it says.
@@ -266,17 +269,17 @@ int32_t ShareSrvProxy::ReportSwingEvent(int32_t gesture, int32_t x, int32_t y, s
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, {"Enter", LOG_INFO, "Exit", LOG_DEBUG});
     MessageParcel& data = req.Data();
-    return Start(req) && req.Check(data.WriteInt32(gesture), "Write gesture failed.") &&
+    return Open(req) && req.Check(data.WriteInt32(gesture), "Write gesture failed.") &&
            req.Check(data.WriteInt32(x), "Write x failed.") && req.Check(data.WriteInt32(y), "Write y failed.") &&
-           req.Check(data.WriteString(concurrentId), "Write concurrentId failed.") && req.Send(REPORT_SWING_EVENT) &&
-           req.ReplyBool();
+           req.Check(data.WriteString(concurrentId), "Write concurrentId failed.") &&
+           req.Send(Code::REPORT_SWING_EVENT) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::SwingSubscribe(const sptr<ISubscribeListener>& listener)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"SwingSubscribe() Enter", LOG_DEBUG, "SwingSubscribe() Exit", LOG_DEBUG});
-    return Start(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(SWING_SUBSCRIBE) &&
+    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::SWING_SUBSCRIBE) &&
            req.ReplyBool();
 }
 
@@ -284,7 +287,7 @@ int32_t ShareSrvProxy::SwingUnSubscribe(const sptr<ISubscribeListener>& listener
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"SwingUnSubscribe() Enter", LOG_DEBUG, "SwingUnSubscribe() Exit", LOG_DEBUG});
-    return Start(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(SWING_UNSUBSCRIBE) &&
+    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::SWING_UNSUBSCRIBE) &&
            req.ReplyBool();
 }
 
@@ -292,19 +295,19 @@ int32_t ShareSrvProxy::ApplyUriPermission(const std::string& deviceId)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"ApplyUriPermission() Enter", LOG_INFO, "ApplyUriPermission() Exit", LOG_INFO});
-    return Start(req) && req.Check(req.Data().WriteString(deviceId), "Write deviceId failed.") &&
-           req.Send(APPLY_URI_PERMISSION) && req.ReplyBool();
+    return Open(req) && req.Check(req.Data().WriteString(deviceId), "Write deviceId failed.") &&
+           req.Send(Code::APPLY_URI_PERMISSION) && req.ReplyBool();
 }
 
 std::vector<PermanentDeviceInfo> ShareSrvProxy::GetPermanentDeviceList()
 {
     std::vector<PermanentDeviceInfo> devices;
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, {"GetPermanentDeviceList() Enter", LOG_DEBUG, nullptr, LOG_DEBUG});
-    if (!Start(req)) {
+    if (!Open(req)) {
         return devices;
     }
     // A failed send is only logged: the empty reply then fails at the counter.
-    req.Transact(GET_PERMANENT_DEVICE_LIST);
+    req.Transact(Code::GET_PERMANENT_DEVICE_LIST);
     MessageParcel& reply = req.Reply();
     int32_t count = 0;
     if (!reply.ReadInt32(count) || count > MAX_PERMANENT_DEVICES) {
@@ -327,8 +330,8 @@ int32_t ShareSrvProxy::RemovePermanentDeviceById(int32_t id)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"RemovePermanentDeviceById() Enter", LOG_INFO, "RemovePermanentDeviceById() Exit", LOG_DEBUG});
-    return Start(req) && req.Check(req.Data().WriteInt32(id), "Write permanent device id failed.") &&
-           req.Send(REMOVE_PERMANENT_DEVICE_BY_ID) && req.ReplyBool();
+    return Open(req) && req.Check(req.Data().WriteInt32(id), "Write permanent device id failed.") &&
+           req.Send(Code::REMOVE_PERMANENT_DEVICE_BY_ID) && req.ReplyBool();
 }
 
 } // namespace Zelkon

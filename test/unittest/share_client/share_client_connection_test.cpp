@@ -5,7 +5,6 @@
 #include <chrono>
 #include <memory>
 
-#include "share_death_recipient.h"
 #include "share_service_harness.h"
 
 namespace OHOS {
@@ -109,7 +108,7 @@ TEST_F(ShareClientConnectionTest, ADeathNoticeForAnotherObjectKeepsTheProxy)
 {
     ASSERT_EQ(Client().Connect(), 0);
     auto callback = std::make_shared<CountingDiedCallback>();
-    sptr<ShareDeathRecipient> recipient = new ShareDeathRecipient();
+    sptr<ShareClient::ShareDeathRecipient> recipient = new ShareClient::ShareDeathRecipient();
     recipient->SetSaDiedCallback(callback);
     sptr<IRemoteObject> other = new ScriptedStub(u"test.Other");
     recipient->OnRemoteDied(other);
@@ -124,7 +123,7 @@ TEST_F(ShareClientConnectionTest, ADeathNoticeForAReleasedObjectChangesNothing)
 {
     ASSERT_EQ(Client().Connect(), 0);
     auto callback = std::make_shared<CountingDiedCallback>();
-    sptr<ShareDeathRecipient> recipient = new ShareDeathRecipient();
+    sptr<ShareClient::ShareDeathRecipient> recipient = new ShareClient::ShareDeathRecipient();
     recipient->SetSaDiedCallback(callback);
     wptr<IRemoteObject> released;
     {

@@ -211,8 +211,7 @@ TEST_F(ShareManagerRequestTest, TheRequestCodesCoverOneToThirtySixOnce)
         codes.push_back(request.code);
     }
     // The six requests with other answers.
-    for (uint32_t code : {GET_ENABLE_STATE, GET_ALL_USER_LIST, GET_SENDING_USER_LIST, GET_RECEIVER_ACTION_CALLBACK,
-                          GET_PREVIEW_DATA, GET_ACCOUNT_INFO}) {
+    for (uint32_t code : {4u, 21u, 11u, 19u, 20u, 22u}) {
         codes.push_back(code);
     }
     std::sort(codes.begin(), codes.end());
@@ -225,12 +224,12 @@ TEST_F(ShareManagerRequestTest, RequestsWithoutArgumentsCarryOnlyTheToken)
 {
     using Call = std::function<void(ShareManagerClient&)>;
     const std::vector<std::pair<uint32_t, Call>> requests = {
-        {GET_ENABLE_STATE, [](ShareManagerClient& c) { c.GetEnableState(); }},
-        {GET_ALL_USER_LIST, [](ShareManagerClient& c) { c.GetAllUserList(); }},
-        {GET_SENDING_USER_LIST, [](ShareManagerClient& c) { c.GetSendingUserList(); }},
-        {GET_RECEIVER_ACTION_CALLBACK, [](ShareManagerClient& c) { c.GetReceiverActionCallback(); }},
-        {GET_PREVIEW_DATA, [](ShareManagerClient& c) { c.GetPreviewData(); }},
-        {GET_ACCOUNT_INFO, [](ShareManagerClient& c) { c.GetAccountInfo(); }},
+        {4u, [](ShareManagerClient& c) { c.GetEnableState(); }},
+        {21u, [](ShareManagerClient& c) { c.GetAllUserList(); }},
+        {11u, [](ShareManagerClient& c) { c.GetSendingUserList(); }},
+        {19u, [](ShareManagerClient& c) { c.GetReceiverActionCallback(); }},
+        {20u, [](ShareManagerClient& c) { c.GetPreviewData(); }},
+        {22u, [](ShareManagerClient& c) { c.GetAccountInfo(); }},
     };
     for (const auto& [code, call] : requests) {
         SCOPED_TRACE(code);

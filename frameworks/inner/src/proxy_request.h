@@ -1,12 +1,13 @@
 /*
- * The one request pattern of both service proxies: enter line, remote check, interface token, checked payload
- * writes, one synchronous SendRequest, exit line, reply. Each operation states only what differs: its site, its
- * texts, its payload and how its reply is read.
+ * The one request pattern of both service proxies: enter line, remote check, interface token, payload writes, one
+ * synchronous SendRequest, exit line, reply. An operation is one chain of these steps that stops at the first that
+ * fails; it states only what differs: its site, its texts, its payload, its code and how its reply is read.
  */
 #ifndef PROXY_REQUEST_H
 #define PROXY_REQUEST_H
 
 #include <string>
+#include <type_traits>
 
 #include "iremote_broker.h"
 #include "iremote_object.h"
@@ -37,17 +38,19 @@ struct RequestLabels {
 
 class ProxyRequest {
 public:
-    // Logs the enter text at the operation's site.
-    ProxyRequest(const RequestLabels& labels, const LogSite& site, const RequestTexts& texts);
+    // Logs the enter text at the operation's site. A refusal comes before everything else, the enter line included:
+    // a refused request logs only the refusal text and opens no further.
+    ProxyRequest(const RequestLabels& labels, const LogSite& site, const RequestTexts& texts,
+                 const Refusal& refusal = {});
     ProxyRequest(const ProxyRequest&) = delete;
     ProxyRequest& operator=(const ProxyRequest&) = delete;
 
-    // Keeps the remote object for Send; logs "Remote() return nullptr." when there is none.
+    // Keeps the remote object for the send; logs "Remote() return nullptr." when there is none.
     bool HasRemote(sptr<IRemoteObject> remote);
     // Writes the interface token; logs "Write descriptor failed" when it cannot.
     bool WriteToken(std::u16string descriptor);
     // HasRemote, then WriteToken: the common opening of a request.
-    bool Start(sptr<IRemoteObject> remote, std::u16string descriptor);
+    bool Open(sptr<IRemoteObject> remote, std::u16string descriptor);
 
     // A checked step: logs failureText at error level when ok is false. Returns ok.
     bool Check(bool ok, const char* failureText);
@@ -59,11 +62,32 @@ public:
         return Check(data_.WriteRemoteObject(broker->AsObject()), failureText);
     }
 
-    // Sends code synchronously with the 8 s wait. A non-zero result logs "SendRequest is failed, error code: %d"
-    // and returns false. Sending does not log the exit text: see Send.
-    bool Transact(uint32_t code);
+    // Untested writes of plain words: the request goes on whatever they return, as the service expects.
+    template <typename... Values>
+    bool Put(Values... values)
+    {
+        (PutWord(values), ...);
+        return true;
+    }
+
+    // Sends the code synchronously with the 8 s wait. A non-zero result logs "SendRequest is failed, error code: %d"
+    // and returns false. The exit text is not logged: see Send.
+    template <typename Code>
+    bool Transact(Code code)
+    {
+        static_assert(std::is_enum_v<Code>, "request codes are the interface's enumeration");
+        return TransactCode(static_cast<uint32_t>(code));
+    }
     // Transact, then the exit text: the service has answered, the reply is not read yet.
-    bool Send(uint32_t code);
+    template <typename Code>
+    bool Send(Code code)
+    {
+        if (!Transact(code)) {
+            return false;
+        }
+        LogExit();
+        return true;
+    }
 
     // Logs the exit text, if the operation has one.
     void LogExit() const;
@@ -80,9 +104,14 @@ public:
     static constexpr int32_t WAIT_TIME_SECONDS = 8;
 
 private:
+    bool TransactCode(uint32_t code);
+    void PutWord(int32_t value) { data_.WriteInt32(value); }
+    void PutWord(bool value) { data_.WriteBool(value); }
+
     const RequestLabels labels_;
     const LogSite site_;
     const RequestTexts texts_;
+    const bool refused_;
     sptr<IRemoteObject> remote_;
     MessageParcel data_;
     MessageParcel reply_;

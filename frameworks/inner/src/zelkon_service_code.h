@@ -1,5 +1,5 @@
 /*
- * Request codes of the share service. Code 9 is unused.
+ * Request codes of the share service (ZelkonService). Code 9 is unused.
  */
 #ifndef ZELKON_SERVICE_CODE_H
 #define ZELKON_SERVICE_CODE_H
@@ -9,7 +9,7 @@
 namespace OHOS {
 namespace Zelkon {
 
-enum ZelkonServiceCode : uint32_t {
+enum class ZelkonServiceCode : uint32_t {
     PUBLISH_DEVICE = 1,
     UNPUBLISH_DEVICE = 2,
     SUBSCRIBE_DEVICE = 3,

@@ -13,6 +13,7 @@
 #include "iremote_proxy.h"
 #include "message_parcel.h"
 #include "proxy_request.h"
+#include "widget_service_code.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -71,18 +72,8 @@ public:
     static constexpr int32_t MAX_DEVICE_COUNT = 1000;
 
 private:
-    // A request with the payload that write puts after the token, answered by a bool.
-    template <typename Write>
-    bool BoolRequest(const LogSite& site, const RequestTexts& texts, uint32_t code, Write&& write);
-    // A request without payload, answered by a bool.
-    bool PlainRequest(const LogSite& site, const RequestTexts& texts, uint32_t code);
-    // A request that carries a caller's callback, refused before anything else when the callback is null.
-    template <typename Callback>
-    bool CallbackRequest(const LogSite& site, const RequestTexts& texts, uint32_t code, const sptr<Callback>& callback);
-    // Sends a list request and reads the count and the records: all of them or none. The prefix is the
-    // operation's name in its failure lines, if it names itself.
-    bool RequestDeviceList(ProxyRequest& request, uint32_t code, const char* prefix,
-                           std::vector<ShareDeviceInfo>& devices);
+    // Opens a request: remote check and interface token.
+    bool Open(ProxyRequest& request);
 
     const uint32_t maxBigStringSize_ = 0x500000;
     const uint32_t bigStringTerminatorSize_ = 1;

@@ -11,6 +11,7 @@
 #include "message_parcel.h"
 #include "proxy_request.h"
 #include "zelkon_service.h"
+#include "zelkon_service_code.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -59,10 +60,10 @@ public:
 
 private:
     // Opens a request: remote check and interface token.
-    bool Start(ProxyRequest& request);
+    bool Open(ProxyRequest& request);
     // Both SendFile requests: transfer parameters, then the record through its own WriteToParcel.
     template <typename Bean>
-    sptr<ZelkonSender> SendFileRequest(ProxyRequest& request, uint32_t code, const TransmitParam& param,
+    sptr<ZelkonSender> SendFileRequest(ProxyRequest& request, ZelkonServiceCode code, const TransmitParam& param,
                                        const Bean& bean, const std::string& packageName, const char* beanFailure);
     // The sender object of a transfer reply, typed through the broker registry; null logs "shareSender is nullptr.".
     static sptr<ZelkonSender> ReadSender(ProxyRequest& request);

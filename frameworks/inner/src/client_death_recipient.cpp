@@ -1,0 +1,51 @@
+#include "client_death_recipient.h"
+
+#include "share_common_constants.h"
+
+#include "share_client.h"
+#include "share_log.h"
+#include "share_manager_client.h"
+
+namespace OHOS {
+namespace Zelkon {
+namespace {
+// Each client's recipient logs under the client's tag.
+template <typename Client>
+const LogLabel& ClientLabel();
+template <>
+const LogLabel& ClientLabel<ShareClient>()
+{
+    return SHARE_CLIENT_LABEL;
+}
+template <>
+const LogLabel& ClientLabel<ShareManagerClient>()
+{
+    return SHARE_MANAGER_CLIENT_LABEL;
+}
+} // namespace
+
+template <typename Client, typename DiedCallback, void (DiedCallback::*NOTIFY)()>
+void ClientDeathRecipient<Client, DiedCallback, NOTIFY>::OnRemoteDied(const wptr<IRemoteObject>& remote)
+{
+    if (remote.GetRefPtr() == nullptr) {
+        SHARE_LOG(ClientLabel<Client>(), LOG_ERROR, "OnRemoteDied failed, remote is nullptr");
+        return;
+    }
+    Client::GetInstance().ResetProxy(remote);
+    std::shared_ptr<DiedCallback> callback;
+    {
+        std::lock_guard<std::mutex> lock(callbackMutex_);
+        callback = callback_.lock();
+    }
+    if (callback != nullptr) {
+        ((*callback).*NOTIFY)();
+    }
+    SHARE_LOG(ClientLabel<Client>(), LOG_DEBUG, "Recv death notice");
+}
+
+template class ClientDeathRecipient<ShareClient, ShareSaDiedCallback, &ShareSaDiedCallback::OnShareSaDied>;
+template class ClientDeathRecipient<ShareManagerClient, ShareManagerDiedCallback,
+                                    &ShareManagerDiedCallback::OnShareManagerDied>;
+
+} // namespace Zelkon
+} // namespace OHOS
