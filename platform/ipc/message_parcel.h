@@ -52,7 +52,7 @@ public:
     static constexpr size_t MAX_RAW_DATA_SIZE = 128 * 1024 * 1024;
 
 private:
-    friend class ProcessBoundary;
+    friend class ParcelRecords;
 
     enum class CarriedKind { OBJECT, FD };
     struct Carried {

@@ -1,6 +1,5 @@
 #include "process_boundary.h"
 
-#include <cstring>
 #include <map>
 #include <mutex>
 #include <unistd.h>
@@ -8,14 +7,10 @@
 
 #include "ipc_log.h"
 #include "ipc_object_proxy.h"
+#include "parcel_records.h"
 
 namespace OHOS {
 namespace {
-constexpr uint32_t BINDER_TYPE_BINDER = 0x73622a85;
-constexpr uint32_t BINDER_TYPE_HANDLE = 0x73682a85;
-constexpr size_t RECORD_SIZE = 24;
-constexpr size_t RECORD_VALUE_OFFSET = 8;
-
 // The remote object standing for each local object that crossed a boundary, so that the other side sees one
 // identity per object. Never destroyed: objects may cross while statics are torn down.
 class ForwarderTable {
@@ -57,10 +52,6 @@ private:
     std::map<const IRemoteObject*, wptr<IPCObjectProxy>> forwarders_;
 };
 
-void PutWord(std::vector<uint8_t>& bytes, size_t offset, const void* value, size_t size)
-{
-    std::memcpy(bytes.data() + offset, value, size);
-}
 } // namespace
 
 sptr<IRemoteObject> ProcessBoundary::Translate(const sptr<IRemoteObject>& object)
@@ -73,44 +64,20 @@ sptr<IRemoteObject> ProcessBoundary::Translate(const sptr<IRemoteObject>& object
 
 bool ProcessBoundary::Copy(const MessageParcel& from, MessageParcel& to)
 {
-    const size_t size = from.GetDataSize();
-    const size_t base = to.GetWritePosition();
-    const auto* data = reinterpret_cast<const uint8_t*>(from.GetData());
-    std::vector<uint8_t> bytes(data, data + size);
-    for (const auto& [offset, carried] : from.carried_) {
-        // A record overwritten after a rewind is plain data now; one cut off by SetDataSize does not travel.
-        if (!from.HasObjectAt(offset) || offset + RECORD_SIZE > size) {
+    std::vector<ParcelRecord> records = ParcelRecords::Of(from);
+    for (ParcelRecord& record : records) {
+        if (record.object != nullptr) {
+            record.object = Translate(record.object);
             continue;
         }
-        MessageParcel::Carried copy{carried.kind, nullptr, INVALID_FD};
-        if (carried.kind == MessageParcel::CarriedKind::OBJECT) {
-            copy.object = Translate(carried.object);
-            const uint32_t type = copy.object->IsProxyObject() ? BINDER_TYPE_HANDLE : BINDER_TYPE_BINDER;
-            PutWord(bytes, offset, &type, sizeof(type));
-        } else {
-            copy.fd = dup(carried.fd);
-            if (copy.fd < 0) {
-                IPC_HOST_LOGE("dup of a carried fd failed, errno %{public}d", errno);
-                return false;
-            }
-            const uint64_t value = static_cast<uint64_t>(copy.fd);
-            PutWord(bytes, offset + RECORD_VALUE_OFFSET, &value, sizeof(value));
+        record.fd = dup(record.fd);
+        if (record.fd < 0) {
+            IPC_HOST_LOGE("dup of a carried fd failed, errno %{public}d", errno);
         }
-        to.carried_[base + offset] = copy;
-        to.AddObject(base + offset, RECORD_SIZE);
     }
-    if (size == 0) {
-        return true;
-    }
-    // The receiving side is not bound by the default maximum: whatever the sender could write arrives.
-    if (base + size > to.GetMaxCapacity()) {
-        to.SetMaxCapacity(base + size);
-    }
-    if (!to.WriteBuffer(bytes.data(), size)) {
-        IPC_HOST_LOGE("copy of %{public}zu bytes failed", size);
-        return false;
-    }
-    return true;
+    const auto* data = reinterpret_cast<const uint8_t*>(from.GetData());
+    std::vector<uint8_t> bytes(data, data + from.GetDataSize());
+    return ParcelRecords::Append(to, bytes.data(), bytes.size(), std::move(records));
 }
 
 } // namespace OHOS

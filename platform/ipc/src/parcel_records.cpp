@@ -1,0 +1,79 @@
+#include "parcel_records.h"
+
+#include <cstring>
+#include <unistd.h>
+
+#include "ipc_log.h"
+
+namespace OHOS {
+namespace {
+constexpr uint32_t BINDER_TYPE_BINDER = 0x73622a85;
+constexpr uint32_t BINDER_TYPE_HANDLE = 0x73682a85;
+constexpr size_t RECORD_SIZE = 24;
+constexpr size_t RECORD_VALUE_OFFSET = 8;
+constexpr size_t RECORD_VALUE_SIZE = 16;
+
+void CloseAll(const std::vector<ParcelRecord>& records)
+{
+    for (const ParcelRecord& record : records) {
+        if (record.object == nullptr && record.fd >= 0) {
+            close(record.fd);
+        }
+    }
+}
+} // namespace
+
+std::vector<ParcelRecord> ParcelRecords::Of(const MessageParcel& parcel)
+{
+    std::vector<ParcelRecord> records;
+    for (const auto& [offset, carried] : parcel.carried_) {
+        // A record overwritten after a rewind is plain data now; one cut off by SetDataSize does not travel.
+        if (!parcel.HasObjectAt(offset) || offset + RECORD_SIZE > parcel.GetDataSize()) {
+            continue;
+        }
+        const bool object = carried.kind == MessageParcel::CarriedKind::OBJECT;
+        records.push_back({offset, object ? carried.object : nullptr, object ? INVALID_FD : carried.fd});
+    }
+    return records;
+}
+
+bool ParcelRecords::Append(MessageParcel& parcel, uint8_t* bytes, size_t size, std::vector<ParcelRecord> records)
+{
+    for (const ParcelRecord& record : records) {
+        if (record.object == nullptr && record.fd < 0) {
+            CloseAll(records);
+            return false;
+        }
+        if (record.object != nullptr) {
+            const uint32_t type = record.object->IsProxyObject() ? BINDER_TYPE_HANDLE : BINDER_TYPE_BINDER;
+            std::memcpy(bytes + record.offset, &type, sizeof(type));
+            std::memset(bytes + record.offset + RECORD_VALUE_OFFSET, 0, RECORD_VALUE_SIZE);
+        } else {
+            const uint64_t value = static_cast<uint64_t>(record.fd);
+            std::memcpy(bytes + record.offset + RECORD_VALUE_OFFSET, &value, sizeof(value));
+        }
+    }
+    if (size == 0) {
+        return true;
+    }
+    const size_t base = parcel.GetWritePosition();
+    // The receiving side is not bound by the default maximum: whatever the sender could write arrives.
+    if (base + size > parcel.GetMaxCapacity()) {
+        parcel.SetMaxCapacity(base + size);
+    }
+    if (!parcel.WriteBuffer(bytes, size)) {
+        IPC_HOST_LOGE("copy of %{public}zu bytes failed", size);
+        CloseAll(records);
+        return false;
+    }
+    for (ParcelRecord& record : records) {
+        const bool object = record.object != nullptr;
+        parcel.carried_[base + record.offset] =
+            MessageParcel::Carried{object ? MessageParcel::CarriedKind::OBJECT : MessageParcel::CarriedKind::FD,
+                                   std::move(record.object), object ? INVALID_FD : record.fd};
+        parcel.AddObject(base + record.offset, RECORD_SIZE);
+    }
+    return true;
+}
+
+} // namespace OHOS
