@@ -1,6 +1,6 @@
 /*
- * Host: the IPC threads of the process, on which incoming one-way work (load callbacks, death notices) runs.
- * Work is never run on the thread that posts it.
+ * Host: the IPC threads of the process, on which incoming one-way work (load callbacks, death notices) runs, and
+ * the threads that serve other processes. Work is never run on the thread that posts it.
  */
 #ifndef OHOS_IPC_IPC_THREADS_H
 #define OHOS_IPC_IPC_THREADS_H
@@ -20,6 +20,9 @@ public:
     // at once (it would wait for itself).
     static void Drain();
     static bool IsIpcThread();
+    // Runs the task on a detached IPC thread of its own (a thread that serves another process): it may block for as
+    // long as it serves.
+    static void StartThread(Task task);
 };
 
 } // namespace OHOS

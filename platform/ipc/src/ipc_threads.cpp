@@ -125,4 +125,12 @@ bool IpcThreads::IsIpcThread()
     return g_onIpcThread;
 }
 
+void IpcThreads::StartThread(Task task)
+{
+    std::thread([task = std::move(task)] {
+        g_onIpcThread = true;
+        task();
+    }).detach();
+}
+
 } // namespace OHOS
