@@ -1,0 +1,46 @@
+/*
+ * Host: transactions between processes over Unix domain sockets. A process that uses none of this stays in the
+ * in-process world and starts no thread; one that serves or connects listens at an address of its own (abstract
+ * namespace, unique to the process instance) and gets proxies (IsProxyObject() true) that reach the objects of other
+ * processes. Local objects written into a parcel for another process arrive there as proxies, proxies sent back to
+ * their owner arrive as the object itself, file descriptors and shared-memory blocks arrive as descriptors of the
+ * receiving process, and the end of a peer process (SIGKILL included) is the death of every proxy to its objects.
+ * A third process's object that a parcel carries stays alive only for as long as its sender holds it: if the sender
+ * lets it go first, it arrives dead.
+ */
+#ifndef OHOS_IPC_IPC_HOST_TRANSPORT_H
+#define OHOS_IPC_IPC_HOST_TRANSPORT_H
+
+#include <chrono>
+#include <cstddef>
+#include <string>
+#include <sys/types.h>
+
+#include "iremote_object.h"
+#include "refbase.h"
+
+namespace OHOS {
+
+class IpcHostTransport {
+public:
+    // Serves the local object as this process's context object (handle 0) at the filesystem socket path, removing a
+    // stale socket file first, until the process ends or serving stops. False (logged) if the path cannot be served
+    // or this process already serves one.
+    static bool ServeContextObject(const std::string& path, const sptr<IRemoteObject>& object);
+    // Removes the socket file; the object stays alive while other processes hold it.
+    static void StopServingContextObject();
+    // A proxy of the context object of the process serving at the path, or null (logged) if nobody serves there.
+    static sptr<IRemoteObject> ConnectToContextObject(const std::string& path);
+    // The pid of the process behind a proxy of this transport, as it said in its hello and the kernel confirmed,
+    // or -1.
+    static pid_t PeerPid(const sptr<IRemoteObject>& object);
+    // Waits until no session with the process pid is left and every death notice their ends caused in this
+    // process has run. False if that takes longer than the timeout.
+    static bool WaitForPeerGone(pid_t pid, std::chrono::milliseconds timeout);
+    // Sessions with live peers.
+    static size_t SessionCount();
+};
+
+} // namespace OHOS
+
+#endif // OHOS_IPC_IPC_HOST_TRANSPORT_H

@@ -1,0 +1,83 @@
+#include "channel.h"
+
+#include <algorithm>
+#include <sys/socket.h>
+
+#include "ipc_types.h"
+
+namespace OHOS {
+
+Channel::Channel(UniqueFd socket) : socket_(std::move(socket)) {}
+
+int Channel::Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds,
+                  FrameSocket::Clock::time_point deadline, IpcFrame* reply)
+{
+    int socket = -1;
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        if (!socket_.Valid()) {
+            return ERR_DEAD_OBJECT;
+        }
+        inCall_ = true;
+        socket = socket_.Get();
+    }
+    // A peer that stops reading holds a send no longer than the caller waits for the reply.
+    // (A zero timeout would be no timeout at all.)
+    const auto waitTime = std::max(std::chrono::ceil<std::chrono::seconds>(deadline - FrameSocket::Clock::now()),
+                                   std::chrono::seconds(1));
+    if (waitTime != sendTimeout_) {
+        FrameSocket::SetSendTimeout(socket, waitTime);
+        sendTimeout_ = waitTime;
+    }
+    int result = ERR_NONE;
+    if (!FrameSocket::Send(socket, bytes, fds)) {
+        result = ERR_DEAD_OBJECT;
+    } else if (reply != nullptr) {
+        switch (FrameSocket::Receive(socket, deadline, *reply)) {
+        case FrameSocket::Result::OK:
+            result = reply->kind == IpcFrame::Kind::REPLY ? ERR_NONE : ERR_INVALID_REPLY;
+            break;
+        case FrameSocket::Result::TIMED_OUT:
+            result = ERR_TIMED_OUT;
+            break;
+        case FrameSocket::Result::CLOSED:
+            result = ERR_DEAD_OBJECT;
+            break;
+        case FrameSocket::Result::REFUSED:
+            result = ERR_INVALID_REPLY;
+            break;
+        }
+    }
+    std::lock_guard<std::mutex> lock(mutex_);
+    inCall_ = false;
+    // A late reply would be read as the answer to the next call.
+    if (result != ERR_NONE || retired_) {
+        socket_.Reset();
+    }
+    return result;
+}
+
+void Channel::Close()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    socket_.Reset();
+}
+
+bool Channel::IsOpen()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return socket_.Valid();
+}
+
+void Channel::Retire()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    retired_ = true;
+    if (!inCall_) {
+        socket_.Reset();
+    } else if (socket_.Valid()) {
+        shutdown(socket_.Get(), SHUT_RDWR);
+    }
+}
+
+} // namespace OHOS

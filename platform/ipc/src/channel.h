@@ -1,0 +1,41 @@
+/*
+ * Host: the socket on which one thread calls into one peer process: it writes a transaction and reads the reply
+ * itself. A channel that timed out, broke or carried a bad reply is closed; the next call opens another. The session
+ * retires its channels when it ends, closing at once those not in a call and waking those that are.
+ */
+#ifndef OHOS_IPC_CHANNEL_H
+#define OHOS_IPC_CHANNEL_H
+
+#include <chrono>
+#include <mutex>
+#include <vector>
+
+#include "frame_socket.h"
+#include "unique_fd.h"
+
+namespace OHOS {
+
+class Channel {
+public:
+    explicit Channel(UniqueFd socket);
+
+    // Sends the frame and, with reply given, waits for the answer until the deadline. ERR_NONE, ERR_TIMED_OUT,
+    // ERR_DEAD_OBJECT (closed or broken) or ERR_INVALID_REPLY (not a reply); on any failure the channel is closed.
+    int Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds, FrameSocket::Clock::time_point deadline,
+             IpcFrame* reply);
+    // The reply was refused after it was read: the channel can no longer be trusted.
+    void Close();
+    bool IsOpen();
+    void Retire();
+
+private:
+    std::mutex mutex_;
+    UniqueFd socket_;
+    bool inCall_ = false;
+    bool retired_ = false;
+    std::chrono::seconds sendTimeout_{0};
+};
+
+} // namespace OHOS
+
+#endif // OHOS_IPC_CHANNEL_H

@@ -1,0 +1,156 @@
+#include "channel_server.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <vector>
+
+#include "export_table.h"
+#include "frame_socket.h"
+#include "ipc_log.h"
+#include "parcel_wire.h"
+#include "session_proxy.h"
+
+namespace OHOS {
+namespace {
+// At exit a request still running is given this long to finish before the process goes on without it.
+constexpr std::chrono::seconds EXIT_GRACE{2};
+
+// The requests being served, so that the exit of the process waits a little for them, as it does for the work of
+// the IPC threads. Never destroyed: serving threads outlive the statics.
+class RunningRequests {
+public:
+    static RunningRequests& OfProcess()
+    {
+        static RunningRequests* running = new RunningRequests();
+        return *running;
+    }
+
+    bool Enter()
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        if (stopped_) {
+            return false;
+        }
+        ++count_;
+        return true;
+    }
+
+    void Leave()
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        if (--count_ == 0) {
+            idle_.notify_all();
+        }
+    }
+
+    void Stop()
+    {
+        std::unique_lock<std::mutex> lock(mutex_);
+        stopped_ = true;
+        idle_.wait_for(lock, EXIT_GRACE, [this] { return count_ == 0; });
+    }
+
+private:
+    std::mutex mutex_;
+    std::condition_variable idle_;
+    int count_ = 0;
+    bool stopped_ = false;
+};
+
+int DumpTo(IRemoteObject& target, MessageParcel& data)
+{
+    UniqueFd fd(data.ReadFileDescriptor());
+    const int32_t count = data.ReadInt32();
+    std::vector<std::u16string> args;
+    for (int32_t i = 0; i < count && data.GetReadableBytes() > 0; ++i) {
+        args.push_back(data.ReadString16());
+    }
+    return target.Dump(fd.Get(), args);
+}
+
+bool AnswerAcquire(const Session& session, int socket, const IpcFrame& request)
+{
+    sptr<IRemoteObject> object = ExportTable::OfProcess().Acquire(request.handle, session.Serial());
+    const std::u16string descriptor = object != nullptr ? object->GetObjectDescriptor() : std::u16string();
+    IpcFrame reply;
+    reply.kind = IpcFrame::Kind::REPLY;
+    reply.status = object != nullptr ? ERR_NONE : ERR_UNKNOWN_OBJECT;
+    const std::vector<uint8_t> bytes =
+        reply.Encode(reinterpret_cast<const uint8_t*>(descriptor.data()), descriptor.size() * sizeof(char16_t), 0);
+    if (!FrameSocket::Send(socket, bytes, {})) {
+        // The caller went away before it knew it held the reference.
+        if (object != nullptr) {
+            ExportTable::OfProcess().Release(request.handle, session.Serial());
+        }
+        return false;
+    }
+    return true;
+}
+
+bool AnswerTransaction(const std::shared_ptr<Session>& session, int socket, IpcFrame& request)
+{
+    sptr<IRemoteObject> target = ExportTable::OfProcess().Find(request.handle);
+    if (target == nullptr) {
+        IPC_HOST_LOGE("pid %{public}d called handle %{public}llu, which this process does not export",
+                      session->PeerPid(), static_cast<unsigned long long>(request.handle));
+        return false;
+    }
+    MessageParcel data;
+    if (!ParcelWire::ToParcel(request, session, &SessionProxy::Import, data) || !RunningRequests::OfProcess().Enter()) {
+        return false;
+    }
+    MessageParcel reply;
+    MessageOption option(static_cast<int>(request.flags));
+    const int result = request.code == IpcFrame::DUMP_CODE ? DumpTo(*target, data)
+                                                           : target->SendRequest(request.code, data, reply, option);
+    RunningRequests::OfProcess().Leave();
+    if ((request.flags & MessageOption::TF_ASYNC) != 0) {
+        return true;
+    }
+    IpcFrame answer;
+    answer.kind = IpcFrame::Kind::REPLY;
+    std::vector<uint8_t> bytes;
+    std::vector<int> fds;
+    // A failed request is answered with its result alone.
+    answer.status = result != ERR_NONE ? result : ParcelWire::ToFrame(reply, *session, answer, bytes, fds);
+    if (answer.status != ERR_NONE) {
+        bytes = answer.Encode(nullptr, 0, 0);
+    }
+    if (!FrameSocket::Send(socket, bytes, fds)) {
+        // The caller gave up (its wait time passed) or went away: what the reply carried never reached it.
+        ParcelWire::Unexport(answer, *session);
+        return false;
+    }
+    return true;
+}
+} // namespace
+
+void ChannelServer::Serve(const std::shared_ptr<Session>& session, UniqueFd socket)
+{
+    for (;;) {
+        IpcFrame request;
+        if (FrameSocket::Receive(socket.Get(), std::nullopt, request) != FrameSocket::Result::OK) {
+            return;
+        }
+        bool keepOpen = false;
+        if (request.kind == IpcFrame::Kind::ACQUIRE) {
+            keepOpen = AnswerAcquire(*session, socket.Get(), request);
+        } else if (request.kind == IpcFrame::Kind::TRANSACTION) {
+            keepOpen = AnswerTransaction(session, socket.Get(), request);
+        } else {
+            IPC_HOST_LOGE("refused a channel frame of kind %{public}u from pid %{public}d",
+                          static_cast<unsigned>(request.kind), session->PeerPid());
+        }
+        if (!keepOpen) {
+            return;
+        }
+    }
+}
+
+void ChannelServer::StopServing()
+{
+    RunningRequests::OfProcess().Stop();
+}
+
+} // namespace OHOS

@@ -1,0 +1,56 @@
+/*
+ * Host: the local objects of this process that other processes hold, by handle. Each session's strong references
+ * are counted; an object stays exported (and alive) while any session holds one, and is let go when the last goes.
+ * Handles are never reused; handle 0 is the context object while it is served.
+ */
+#ifndef OHOS_IPC_EXPORT_TABLE_H
+#define OHOS_IPC_EXPORT_TABLE_H
+
+#include <cstdint>
+#include <map>
+#include <mutex>
+
+#include "iremote_object.h"
+
+namespace OHOS {
+
+class ExportTable {
+public:
+    static constexpr uint64_t CONTEXT_HANDLE = 0;
+
+    static ExportTable& OfProcess();
+
+    // The handle of the object (the same while it stays exported), with one more reference held by the session.
+    uint64_t Export(const sptr<IRemoteObject>& object, uint64_t session);
+    // The exported object of the handle, or null.
+    sptr<IRemoteObject> Find(uint64_t handle);
+    // One more reference held by the session: the object, or null if the handle is not exported.
+    sptr<IRemoteObject> Acquire(uint64_t handle, uint64_t session);
+    // One reference of the session given back; false if the session held none on the handle.
+    bool Release(uint64_t handle, uint64_t session);
+    // Every reference the session held: it ended.
+    void ReleaseAll(uint64_t session);
+    // Exports the object at the context handle for as long as it is served; false if another object holds it.
+    bool ServeContext(const sptr<IRemoteObject>& object);
+    void StopServingContext();
+
+private:
+    struct Entry {
+        sptr<IRemoteObject> object;
+        std::map<uint64_t, int> references;
+        bool served = false;
+    };
+    using Entries = std::map<uint64_t, Entry>;
+
+    // Forgets the entry if nothing holds it any more; what it held is moved to dropped, to be let go unlocked.
+    void ForgetIfUnheld(Entries::iterator it, std::vector<sptr<IRemoteObject>>& dropped);
+
+    std::mutex mutex_;
+    Entries entries_;
+    std::map<const IRemoteObject*, uint64_t> handles_;
+    uint64_t nextHandle_ = CONTEXT_HANDLE + 1;
+};
+
+} // namespace OHOS
+
+#endif // OHOS_IPC_EXPORT_TABLE_H

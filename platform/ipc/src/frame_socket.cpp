@@ -1,0 +1,246 @@
+#include "frame_socket.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <cstring>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+
+#include "ipc_log.h"
+
+namespace OHOS {
+namespace {
+constexpr std::chrono::seconds CONNECT_TIMEOUT{5};
+// A body is read in pieces that grow with what arrived, so that a peer announcing far more than it sends cannot
+// make this process reserve the whole announced size.
+constexpr size_t FIRST_BODY_PIECE = 64 * 1024;
+
+using Result = FrameSocket::Result;
+
+struct Address {
+    sockaddr_un address{};
+    socklen_t length = 0;
+};
+
+bool MakeAddress(const std::string& name, FrameSocket::Namespace space, Address& made)
+{
+    const size_t offset = space == FrameSocket::Namespace::ABSTRACT ? 1 : 0;
+    if (name.empty() || name.size() + offset >= sizeof(made.address.sun_path)) {
+        IPC_HOST_LOGE("socket address of %{public}zu bytes is not usable", name.size());
+        return false;
+    }
+    made.address.sun_family = AF_UNIX;
+    std::memcpy(made.address.sun_path + offset, name.data(), name.size());
+    made.length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + offset + name.size() +
+                                         (space == FrameSocket::Namespace::FILESYSTEM ? 1 : 0));
+    return true;
+}
+
+UniqueFd NewSocket()
+{
+    UniqueFd socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    if (!socket.Valid()) {
+        IPC_HOST_LOGE("socket failed, errno %{public}d", errno);
+    }
+    return socket;
+}
+
+void TakeDescriptors(msghdr& message, std::vector<UniqueFd>& fds)
+{
+    for (cmsghdr* header = CMSG_FIRSTHDR(&message); header != nullptr; header = CMSG_NXTHDR(&message, header)) {
+        if (header->cmsg_level != SOL_SOCKET || header->cmsg_type != SCM_RIGHTS) {
+            continue;
+        }
+        const size_t count = (header->cmsg_len - CMSG_LEN(0)) / sizeof(int);
+        for (size_t i = 0; i < count; ++i) {
+            int fd = -1;
+            std::memcpy(&fd, CMSG_DATA(header) + i * sizeof(int), sizeof(int));
+            fds.emplace_back(fd);
+        }
+    }
+}
+
+// Waits until the socket is readable or the deadline passes.
+Result AwaitReadable(int socket, const FrameSocket::Deadline& deadline)
+{
+    if (!deadline.has_value()) {
+        return Result::OK;
+    }
+    for (;;) {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(*deadline - FrameSocket::Clock::now());
+        pollfd entry{socket, POLLIN, 0};
+        const int ready = poll(&entry, 1, static_cast<int>(std::max<int64_t>(left.count(), 0)));
+        if (ready > 0) {
+            return Result::OK;
+        }
+        if (ready == 0) {
+            return Result::TIMED_OUT;
+        }
+        if (errno != EINTR) {
+            return Result::CLOSED;
+        }
+    }
+}
+
+// Reads exactly size bytes, collecting the descriptors that come with them. A frame that ends early is refused;
+// the end of the connection before its first byte is a close.
+Result ReadExactly(int socket, uint8_t* data, size_t size, const FrameSocket::Deadline& deadline,
+                   std::vector<UniqueFd>& fds, bool frameStart)
+{
+    alignas(cmsghdr) char control[CMSG_SPACE(IpcFrame::MAX_FDS * sizeof(int))];
+    size_t got = 0;
+    while (got < size) {
+        const Result ready = AwaitReadable(socket, deadline);
+        if (ready != Result::OK) {
+            return ready;
+        }
+        iovec piece{data + got, size - got};
+        msghdr message{};
+        message.msg_iov = &piece;
+        message.msg_iovlen = 1;
+        message.msg_control = control;
+        message.msg_controllen = sizeof(control);
+        const ssize_t count = recvmsg(socket, &message, MSG_CMSG_CLOEXEC);
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count < 0) {
+            return Result::CLOSED;
+        }
+        TakeDescriptors(message, fds);
+        if ((message.msg_flags & MSG_CTRUNC) != 0) {
+            IPC_HOST_LOGE("refused a frame: more descriptors than a frame carries");
+            return Result::REFUSED;
+        }
+        if (count == 0) {
+            if (frameStart && got == 0) {
+                return Result::CLOSED;
+            }
+            IPC_HOST_LOGE("refused a frame: the connection ended within it");
+            return Result::REFUSED;
+        }
+        got += static_cast<size_t>(count);
+    }
+    return Result::OK;
+}
+} // namespace
+
+bool FrameSocket::Send(int socket, const std::vector<uint8_t>& bytes, const std::vector<int>& fds)
+{
+    alignas(cmsghdr) char control[CMSG_SPACE(IpcFrame::MAX_FDS * sizeof(int))];
+    size_t sent = 0;
+    while (sent < bytes.size()) {
+        iovec piece{const_cast<uint8_t*>(bytes.data()) + sent, bytes.size() - sent};
+        msghdr message{};
+        message.msg_iov = &piece;
+        message.msg_iovlen = 1;
+        // The descriptors go with the first byte, so that they arrive with the header.
+        if (sent == 0 && !fds.empty()) {
+            message.msg_control = control;
+            message.msg_controllen = CMSG_SPACE(fds.size() * sizeof(int));
+            cmsghdr* header = CMSG_FIRSTHDR(&message);
+            header->cmsg_level = SOL_SOCKET;
+            header->cmsg_type = SCM_RIGHTS;
+            header->cmsg_len = CMSG_LEN(fds.size() * sizeof(int));
+            std::memcpy(CMSG_DATA(header), fds.data(), fds.size() * sizeof(int));
+        }
+        const ssize_t count = sendmsg(socket, &message, MSG_NOSIGNAL);
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count <= 0) {
+            return false;
+        }
+        sent += static_cast<size_t>(count);
+    }
+    return true;
+}
+
+FrameSocket::Result FrameSocket::Receive(int socket, Deadline deadline, IpcFrame& frame)
+{
+    std::vector<uint8_t> bytes(IpcFrame::HEADER_SIZE);
+    std::vector<UniqueFd> fds;
+    Result result = ReadExactly(socket, bytes.data(), bytes.size(), deadline, fds, true);
+    if (result != Result::OK) {
+        return result;
+    }
+    size_t bodySize = 0;
+    const char* error = nullptr;
+    if (!IpcFrame::BodySize(bytes.data(), bodySize, error)) {
+        IPC_HOST_LOGE("refused a frame: %{public}s", error);
+        return Result::REFUSED;
+    }
+    size_t got = 0;
+    while (got < bodySize && result == Result::OK) {
+        const size_t piece = std::min(bodySize - got, std::max(got, FIRST_BODY_PIECE));
+        bytes.resize(IpcFrame::HEADER_SIZE + got + piece);
+        result = ReadExactly(socket, bytes.data() + IpcFrame::HEADER_SIZE + got, piece, deadline, fds, false);
+        got += piece;
+    }
+    if (result != Result::OK) {
+        return result;
+    }
+    std::optional<IpcFrame> decoded = IpcFrame::Decode(std::move(bytes), std::move(fds), error);
+    if (!decoded.has_value()) {
+        IPC_HOST_LOGE("refused a frame: %{public}s", error);
+        return Result::REFUSED;
+    }
+    frame = std::move(*decoded);
+    return Result::OK;
+}
+
+UniqueFd FrameSocket::Connect(const std::string& address, Namespace space)
+{
+    Address target;
+    if (!MakeAddress(address, space, target)) {
+        return UniqueFd();
+    }
+    UniqueFd socket = NewSocket();
+    if (!socket.Valid()) {
+        return socket;
+    }
+    // A listener that no longer accepts must not hold the caller forever.
+    SetSendTimeout(socket.Get(), CONNECT_TIMEOUT);
+    if (connect(socket.Get(), reinterpret_cast<const sockaddr*>(&target.address), target.length) != 0) {
+        return UniqueFd();
+    }
+    return socket;
+}
+
+UniqueFd FrameSocket::Listen(const std::string& address, Namespace space)
+{
+    Address own;
+    if (!MakeAddress(address, space, own)) {
+        return UniqueFd();
+    }
+    UniqueFd socket = NewSocket();
+    if (!socket.Valid()) {
+        return socket;
+    }
+    if (bind(socket.Get(), reinterpret_cast<const sockaddr*>(&own.address), own.length) != 0 ||
+        listen(socket.Get(), SOMAXCONN) != 0) {
+        IPC_HOST_LOGE("cannot listen at %{public}s, errno %{public}d", address.c_str(), errno);
+        return UniqueFd();
+    }
+    return socket;
+}
+
+pid_t FrameSocket::PeerPid(int socket)
+{
+    ucred credentials{};
+    socklen_t length = sizeof(credentials);
+    if (getsockopt(socket, SOL_SOCKET, SO_PEERCRED, &credentials, &length) != 0) {
+        return -1;
+    }
+    return credentials.pid;
+}
+
+void FrameSocket::SetSendTimeout(int socket, std::chrono::seconds timeout)
+{
+    const timeval limit{static_cast<time_t>(timeout.count()), 0};
+    setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof(limit));
+}
+
+} // namespace OHOS

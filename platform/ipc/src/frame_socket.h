@@ -1,0 +1,49 @@
+/*
+ * Host: frames over Unix stream sockets. A frame is sent whole with its descriptors (SCM_RIGHTS), received exactly
+ * (never a byte of the next one) within a deadline, and decoded; the sockets are those of the abstract namespace
+ * (a process's own address, nothing on disk) or of the filesystem (a well-known path).
+ */
+#ifndef OHOS_IPC_FRAME_SOCKET_H
+#define OHOS_IPC_FRAME_SOCKET_H
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+#include "ipc_frame.h"
+#include "unique_fd.h"
+
+namespace OHOS {
+
+class FrameSocket {
+public:
+    using Clock = std::chrono::steady_clock;
+    using Deadline = std::optional<Clock::time_point>;
+    enum class Namespace { ABSTRACT, FILESYSTEM };
+    enum class Result {
+        OK,
+        CLOSED,    // the peer closed the connection between frames, or it broke
+        TIMED_OUT, // nothing complete before the deadline
+        REFUSED,   // not a frame (logged); the descriptors that came with it are closed
+    };
+
+    // False if the connection is broken or stalls beyond the socket's send timeout.
+    static bool Send(int socket, const std::vector<uint8_t>& bytes, const std::vector<int>& fds);
+    // Without a deadline, waits as long as it takes.
+    static Result Receive(int socket, Deadline deadline, IpcFrame& frame);
+
+    // A connected socket, or an invalid one (logged).
+    static UniqueFd Connect(const std::string& address, Namespace space);
+    // A socket listening at the address, or an invalid one (logged).
+    static UniqueFd Listen(const std::string& address, Namespace space);
+    // The process at the other end as the kernel knows it, or -1.
+    static pid_t PeerPid(int socket);
+    // How long a send may make no progress before it fails.
+    static void SetSendTimeout(int socket, std::chrono::seconds timeout);
+};
+
+} // namespace OHOS
+
+#endif // OHOS_IPC_FRAME_SOCKET_H

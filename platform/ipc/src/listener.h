@@ -1,0 +1,37 @@
+/*
+ * Host: a listening socket of this process (its own address, or the path of its context object), accepting on an
+ * IPC thread of its own. Each connection gets a thread that reads its hello: a session hello makes it the reader of
+ * a new session, a channel hello makes it the server of that channel.
+ */
+#ifndef OHOS_IPC_LISTENER_H
+#define OHOS_IPC_LISTENER_H
+
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+
+#include "unique_fd.h"
+
+namespace OHOS {
+
+class Listener : public std::enable_shared_from_this<Listener> {
+public:
+    // Accepts on the listening socket until stopped.
+    static std::shared_ptr<Listener> Start(UniqueFd socket);
+    // Accepts no more and closes the socket; connections already made go on.
+    void Stop();
+
+private:
+    explicit Listener(UniqueFd socket);
+    void Accept();
+    static void Serve(UniqueFd connection);
+
+    UniqueFd socket_;
+    std::mutex mutex_;
+    std::condition_variable stopped_;
+    bool accepting_ = true;
+};
+
+} // namespace OHOS
+
+#endif // OHOS_IPC_LISTENER_H

@@ -1,0 +1,40 @@
+/*
+ * Host: a parcel as a frame to another process and back. The bytes travel as they are; the objects become entries
+ * of the frame's object table: a local object is exported (the frame carries one reference to it), a proxy travels
+ * as the handle that its owner knows (the receiver's own, or a third process's with that process's address), a
+ * descriptor by its index among those sent beside the frame. Proxies of the in-process world cannot travel.
+ */
+#ifndef OHOS_IPC_PARCEL_WIRE_H
+#define OHOS_IPC_PARCEL_WIRE_H
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "ipc_frame.h"
+#include "message_parcel.h"
+#include "session.h"
+
+namespace OHOS {
+
+class ParcelWire {
+public:
+    // What an object of a peer, named by a frame that came through the session, becomes in this process.
+    using Importer = std::function<sptr<IRemoteObject>(const std::shared_ptr<Session>& from, const IpcFrame::Object&)>;
+
+    // The bytes of the frame holding the parcel for the session's peer; fds are the parcel's descriptors to send
+    // beside them. ERR_FLATTEN_OBJECT (logged, nothing left exported) if something in the parcel cannot travel.
+    static int ToFrame(const MessageParcel& parcel, Session& to, IpcFrame& frame, std::vector<uint8_t>& bytes,
+                       std::vector<int>& fds);
+    // Takes back the references that a frame made by ToFrame carried: it never reached the peer.
+    static void Unexport(const IpcFrame& frame, Session& to);
+    // Appends what the frame holds to the parcel. False (logged) if the frame names an object of this process that is
+    // not exported; whatever it carried is then let go.
+    static bool ToParcel(IpcFrame& frame, const std::shared_ptr<Session>& from, const Importer& import,
+                         MessageParcel& parcel);
+};
+
+} // namespace OHOS
+
+#endif // OHOS_IPC_PARCEL_WIRE_H

@@ -1,0 +1,223 @@
+#include "session.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "export_table.h"
+#include "frame_socket.h"
+#include "ipc_log.h"
+#include "ipc_threads.h"
+
+namespace OHOS {
+namespace {
+std::atomic<uint64_t> g_nextSerial{1};
+} // namespace
+
+Session::Session(UniqueFd socket, std::string peerAddress, pid_t peerPid, uint64_t nonce) :
+    peerAddress_(std::move(peerAddress)), peerPid_(peerPid), nonce_(nonce), serial_(g_nextSerial++),
+    socket_(std::move(socket))
+{
+}
+
+sptr<IRemoteObject> Session::FindImport(uint64_t handle)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    auto it = imports_.find(handle);
+    return it != imports_.end() ? it->second.promote() : nullptr;
+}
+
+sptr<IRemoteObject> Session::Import(uint64_t handle, const std::function<sptr<IRemoteObject>()>& make, bool& created)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    auto it = imports_.find(handle);
+    if (it != imports_.end()) {
+        // Null while the last reference of the previous object is going: that one gives its own reference back.
+        sptr<IRemoteObject> existing = it->second.promote();
+        if (existing != nullptr) {
+            created = false;
+            return existing;
+        }
+    }
+    created = true;
+    sptr<IRemoteObject> object = make();
+    if (IsAlive()) {
+        imports_[handle] = object;
+    }
+    return object;
+}
+
+void Session::Forget(uint64_t handle, const IRemoteObject* object)
+{
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        auto it = imports_.find(handle);
+        if (it != imports_.end() && it->second == object) {
+            imports_.erase(it);
+        }
+        watches_.erase(object);
+    }
+    SendRelease(handle);
+}
+
+void Session::SendRelease(uint64_t handle)
+{
+    IpcFrame release;
+    release.kind = IpcFrame::Kind::RELEASE;
+    release.handle = handle;
+    const std::vector<uint8_t> bytes = release.Encode(nullptr, 0, 0);
+    std::lock_guard<std::mutex> lock(sendMutex_);
+    if (socket_.Valid() && !FrameSocket::Send(socket_.Get(), bytes, {})) {
+        IPC_HOST_LOGW("release of handle %{public}llu to pid %{public}d failed",
+                      static_cast<unsigned long long>(handle), peerPid_);
+    }
+}
+
+bool Session::AddDeathRecipient(const IRemoteObject* object, const Recipient& recipient)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    if (!IsAlive()) {
+        return false;
+    }
+    Watch& watch = watches_[object];
+    watch.object = const_cast<IRemoteObject*>(object);
+    watch.recipients.push_back(recipient);
+    return true;
+}
+
+bool Session::RemoveDeathRecipient(const IRemoteObject* object, const Recipient& recipient)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    auto watch = watches_.find(object);
+    if (!IsAlive() || watch == watches_.end()) {
+        return false;
+    }
+    std::vector<Recipient>& recipients = watch->second.recipients;
+    auto it = std::find(recipients.begin(), recipients.end(), recipient);
+    if (it == recipients.end()) {
+        return false;
+    }
+    recipients.erase(it);
+    return true;
+}
+
+void Session::AddChannel(const std::shared_ptr<Channel>& channel)
+{
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        if (IsAlive()) {
+            // Channels of threads that ended are gone; their entries with them.
+            channels_.erase(std::remove_if(channels_.begin(), channels_.end(),
+                                           [](const std::weak_ptr<Channel>& held) { return held.expired(); }),
+                            channels_.end());
+            channels_.push_back(channel);
+            return;
+        }
+    }
+    channel->Retire();
+}
+
+void Session::ReadUntilEnd()
+{
+    int socket = -1;
+    {
+        std::lock_guard<std::mutex> lock(sendMutex_);
+        socket = socket_.Get();
+    }
+    for (;;) {
+        IpcFrame frame;
+        if (FrameSocket::Receive(socket, std::nullopt, frame) != FrameSocket::Result::OK) {
+            break;
+        }
+        if (frame.kind != IpcFrame::Kind::RELEASE || !ExportTable::OfProcess().Release(frame.handle, serial_)) {
+            IPC_HOST_LOGE("refused a session frame of kind %{public}u on handle %{public}llu from pid %{public}d",
+                          static_cast<unsigned>(frame.kind), static_cast<unsigned long long>(frame.handle), peerPid_);
+            break;
+        }
+    }
+    End();
+}
+
+void Session::End()
+{
+    std::vector<std::pair<sptr<IRemoteObject>, std::vector<Recipient>>> notices;
+    std::vector<std::weak_ptr<Channel>> channels;
+    {
+        std::lock_guard<std::mutex> lock(sendMutex_);
+        socket_.Reset();
+    }
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        alive_.store(false, std::memory_order_release);
+        for (auto& [object, watch] : watches_) {
+            // Promoted only to be kept: a reference dropped here could be the last, which comes back to this lock.
+            // An object whose last reference is going has nobody left to tell.
+            if (watch.recipients.empty()) {
+                continue;
+            }
+            if (sptr<IRemoteObject> watched = watch.object.promote()) {
+                notices.emplace_back(std::move(watched), std::move(watch.recipients));
+            }
+        }
+        watches_.clear();
+        imports_.clear();
+        channels.swap(channels_);
+        noticesPending_ = !notices.empty();
+    }
+    ExportTable::OfProcess().ReleaseAll(serial_);
+    for (const std::weak_ptr<Channel>& held : channels) {
+        if (std::shared_ptr<Channel> channel = held.lock()) {
+            channel->Retire();
+        }
+    }
+    if (!notices.empty()) {
+        IpcThreads::Post([self = shared_from_this(), notices = std::move(notices)] {
+            for (const auto& [object, recipients] : notices) {
+                for (const Recipient& recipient : recipients) {
+                    recipient->OnRemoteDied(wptr<IRemoteObject>(object));
+                }
+            }
+            self->NoticesDone();
+        });
+    }
+    std::lock_guard<std::mutex> lock(mutex_);
+    ended_ = true;
+    changed_.notify_all();
+}
+
+bool Session::ServingStarted()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    if (!IsAlive()) {
+        return false;
+    }
+    ++channelsServed_;
+    return true;
+}
+
+void Session::ServingEnded()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    --channelsServed_;
+    changed_.notify_all();
+}
+
+void Session::NoticesDone()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    noticesPending_ = false;
+    changed_.notify_all();
+}
+
+bool Session::WaitGone(std::chrono::steady_clock::time_point deadline)
+{
+    std::unique_lock<std::mutex> lock(mutex_);
+    return changed_.wait_until(lock, deadline, [this] { return Gone(); });
+}
+
+bool Session::IsGone()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return Gone();
+}
+
+} // namespace OHOS

@@ -1,0 +1,185 @@
+#include "session_proxy.h"
+
+#include <chrono>
+#include <cstring>
+
+#include "export_table.h"
+#include "ipc_log.h"
+#include "parcel_wire.h"
+#include "session_registry.h"
+#include "thread_channels.h"
+
+namespace OHOS {
+namespace {
+FrameSocket::Clock::time_point DeadlineOf(const MessageOption& option)
+{
+    const int seconds = option.GetWaitTime() > 0 ? option.GetWaitTime() : MessageOption::TF_WAIT_TIME;
+    return FrameSocket::Clock::now() + std::chrono::seconds(seconds);
+}
+} // namespace
+
+SessionProxy::SessionProxy(std::shared_ptr<Session> session, uint64_t handle, std::u16string descriptor) :
+    IRemoteObject(std::move(descriptor)), ImportedHandle{std::move(session), handle}
+{
+}
+
+int32_t SessionProxy::GetObjectRefCount()
+{
+    return GetSptrRefCount();
+}
+
+int SessionProxy::SendRequest(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option)
+{
+    if (code > LAST_CALL_TRANSACTION) {
+        IPC_HOST_LOGE("invalid code %{public}u", code);
+        return IPC_PROXY_INVALID_CODE_ERR;
+    }
+    return Transact(code, data, reply, option);
+}
+
+int SessionProxy::Transact(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option)
+{
+    if (IsObjectDead()) {
+        IPC_HOST_LOGW("code %{public}u sent to a dead object", code);
+        return ERR_DEAD_OBJECT;
+    }
+    IpcFrame request;
+    request.kind = IpcFrame::Kind::TRANSACTION;
+    request.handle = handle;
+    request.code = code;
+    request.flags = static_cast<uint32_t>(option.GetFlags());
+    std::vector<uint8_t> bytes;
+    std::vector<int> fds;
+    int result = ParcelWire::ToFrame(data, *session, request, bytes, fds);
+    if (result != ERR_NONE) {
+        return result;
+    }
+    std::shared_ptr<Channel> channel = ThreadChannels::To(session);
+    if (channel == nullptr) {
+        return ERR_DEAD_OBJECT;
+    }
+    const bool oneWay = (option.GetFlags() & MessageOption::TF_ASYNC) != 0;
+    IpcFrame answer;
+    result = channel->Call(bytes, fds, DeadlineOf(option), oneWay ? nullptr : &answer);
+    if (result != ERR_NONE) {
+        IPC_HOST_LOGE("code %{public}u to pid %{public}d failed: %{public}d", code, session->PeerPid(), result);
+        return result;
+    }
+    if (oneWay || answer.status != ERR_NONE) {
+        return answer.status;
+    }
+    if (!ParcelWire::ToParcel(answer, session, &SessionProxy::Import, reply)) {
+        channel->Close();
+        return ERR_INVALID_REPLY;
+    }
+    return ERR_NONE;
+}
+
+bool SessionProxy::IsObjectDead() const
+{
+    return session == nullptr || !session->IsAlive();
+}
+
+bool SessionProxy::AddDeathRecipient(const sptr<DeathRecipient>& recipient)
+{
+    if (recipient == nullptr) {
+        return false;
+    }
+    if (IsObjectDead() || !session->AddDeathRecipient(this, recipient)) {
+        IPC_HOST_LOGE("death recipient refused: the object is dead");
+        return false;
+    }
+    return true;
+}
+
+bool SessionProxy::RemoveDeathRecipient(const sptr<DeathRecipient>& recipient)
+{
+    return recipient != nullptr && session != nullptr && session->RemoveDeathRecipient(this, recipient);
+}
+
+int SessionProxy::Dump(int fd, const std::vector<std::u16string>& args)
+{
+    MessageParcel data;
+    if (!data.WriteFileDescriptor(fd) || !data.WriteInt32(static_cast<int32_t>(args.size()))) {
+        return ERR_INVALID_DATA;
+    }
+    for (const std::u16string& arg : args) {
+        if (!data.WriteString16(arg)) {
+            return ERR_INVALID_DATA;
+        }
+    }
+    MessageParcel reply;
+    MessageOption option;
+    return Transact(IpcFrame::DUMP_CODE, data, reply, option);
+}
+
+void SessionProxy::OnLastStrongRef(const void* objectId)
+{
+    (void)objectId;
+    if (session != nullptr) {
+        session->Forget(handle, this);
+    }
+}
+
+sptr<IRemoteObject> SessionProxy::Import(const std::shared_ptr<Session>& from, const IpcFrame::Object& object)
+{
+    if (object.kind == IpcFrame::ObjectKind::EXPORTED) {
+        return Adopt(from, object.value, object.descriptor);
+    }
+    std::shared_ptr<Session> owner = SessionRegistry::OfProcess().SessionTo(object.address);
+    if (owner == nullptr) {
+        return new SessionProxy(nullptr, object.value, object.descriptor);
+    }
+    if (sptr<IRemoteObject> known = owner->FindImport(object.value)) {
+        return known;
+    }
+    if (!Acquire(owner, object.value).has_value()) {
+        IPC_HOST_LOGW("handle %{public}llu is unknown at pid %{public}d: its sender no longer held it",
+                      static_cast<unsigned long long>(object.value), owner->PeerPid());
+        return new SessionProxy(nullptr, object.value, object.descriptor);
+    }
+    return Adopt(owner, object.value, object.descriptor);
+}
+
+sptr<IRemoteObject> SessionProxy::ImportContext(const std::shared_ptr<Session>& session)
+{
+    std::optional<std::u16string> descriptor = Acquire(session, ExportTable::CONTEXT_HANDLE);
+    if (!descriptor.has_value()) {
+        IPC_HOST_LOGE("pid %{public}d serves no context object", session->PeerPid());
+        return nullptr;
+    }
+    return Adopt(session, ExportTable::CONTEXT_HANDLE, *descriptor);
+}
+
+std::optional<std::u16string> SessionProxy::Acquire(const std::shared_ptr<Session>& session, uint64_t handle)
+{
+    std::shared_ptr<Channel> channel = ThreadChannels::To(session);
+    if (channel == nullptr) {
+        return std::nullopt;
+    }
+    IpcFrame acquire;
+    acquire.kind = IpcFrame::Kind::ACQUIRE;
+    acquire.handle = handle;
+    IpcFrame answer;
+    if (channel->Call(acquire.Encode(nullptr, 0, 0), {}, DeadlineOf(MessageOption()), &answer) != ERR_NONE ||
+        answer.status != ERR_NONE || answer.DataSize() % sizeof(char16_t) != 0) {
+        return std::nullopt;
+    }
+    std::u16string descriptor(answer.DataSize() / sizeof(char16_t), u'\0');
+    std::memcpy(descriptor.data(), answer.Data(), answer.DataSize());
+    return descriptor;
+}
+
+sptr<IRemoteObject> SessionProxy::Adopt(const std::shared_ptr<Session>& session, uint64_t handle,
+                                        const std::u16string& descriptor)
+{
+    bool created = false;
+    sptr<IRemoteObject> proxy = session->Import(
+        handle, [&] { return sptr<IRemoteObject>(new SessionProxy(session, handle, descriptor)); }, created);
+    if (!created) {
+        session->SendRelease(handle);
+    }
+    return proxy;
+}
+
+} // namespace OHOS

@@ -1,0 +1,52 @@
+/*
+ * Host: a remote object that stands for an object of another process, reached through a session. Each calling
+ * thread sends on a channel of its own and reads its own reply within the wait time of the call. One proxy per
+ * session and handle while it lives; it holds one reference in the owner's process and gives it back when its
+ * last strong reference goes. It dies with the session.
+ */
+#ifndef OHOS_IPC_SESSION_PROXY_H
+#define OHOS_IPC_SESSION_PROXY_H
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "ipc_frame.h"
+#include "iremote_object.h"
+#include "session.h"
+
+namespace OHOS {
+
+class SessionProxy : public IRemoteObject, public ImportedHandle {
+public:
+    // Without a session the proxy is dead from the start.
+    SessionProxy(std::shared_ptr<Session> session, uint64_t handle, std::u16string descriptor);
+
+    int32_t GetObjectRefCount() override;
+    int SendRequest(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option) override;
+    bool IsObjectDead() const override;
+    bool AddDeathRecipient(const sptr<DeathRecipient>& recipient) override;
+    bool RemoveDeathRecipient(const sptr<DeathRecipient>& recipient) override;
+    int Dump(int fd, const std::vector<std::u16string>& args) override;
+    void OnLastStrongRef(const void* objectId) override;
+
+    // What an object named by a frame from the session is here: a proxy that keeps the reference the frame carried,
+    // or, for a third process's object, one that takes a reference at its owner now. A proxy whose owner no longer
+    // knew the handle is dead: a sender keeps a third process's object alive only for as long as it holds it.
+    static sptr<IRemoteObject> Import(const std::shared_ptr<Session>& from, const IpcFrame::Object& object);
+    // The context object of the session's peer; null (logged) if it serves none.
+    static sptr<IRemoteObject> ImportContext(const std::shared_ptr<Session>& session);
+
+private:
+    int Transact(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option);
+    // Takes a reference on the handle in the peer's process; its descriptor, or nullopt if the handle is unknown.
+    static std::optional<std::u16string> Acquire(const std::shared_ptr<Session>& session, uint64_t handle);
+    // The proxy of the handle, holding the one reference this process was given (given back if one already holds).
+    static sptr<IRemoteObject> Adopt(const std::shared_ptr<Session>& session, uint64_t handle,
+                                     const std::u16string& descriptor);
+};
+
+} // namespace OHOS
+
+#endif // OHOS_IPC_SESSION_PROXY_H

@@ -1,0 +1,43 @@
+#include "thread_channels.h"
+
+#include <map>
+#include <unistd.h>
+
+#include "frame_socket.h"
+#include "ipc_log.h"
+#include "session_registry.h"
+
+namespace OHOS {
+namespace {
+// By session serial.
+thread_local std::map<uint64_t, std::shared_ptr<Channel>> t_channels;
+
+void ForgetClosed()
+{
+    for (auto it = t_channels.begin(); it != t_channels.end();) {
+        it = it->second->IsOpen() ? std::next(it) : t_channels.erase(it);
+    }
+}
+} // namespace
+
+std::shared_ptr<Channel> ThreadChannels::To(const std::shared_ptr<Session>& session)
+{
+    auto it = t_channels.find(session->Serial());
+    if (it != t_channels.end() && it->second->IsOpen()) {
+        return it->second;
+    }
+    ForgetClosed();
+    UniqueFd socket = FrameSocket::Connect(session->PeerAddress(), FrameSocket::Namespace::ABSTRACT);
+    const std::vector<uint8_t> hello = IpcFrame::EncodeHello(IpcFrame::Kind::CHANNEL_HELLO, session->Nonce(), getpid(),
+                                                             SessionRegistry::OfProcess().OwnAddress());
+    if (!socket.Valid() || !FrameSocket::Send(socket.Get(), hello, {})) {
+        IPC_HOST_LOGE("cannot open a channel to pid %{public}d, errno %{public}d", session->PeerPid(), errno);
+        return nullptr;
+    }
+    auto channel = std::make_shared<Channel>(std::move(socket));
+    session->AddChannel(channel);
+    t_channels[session->Serial()] = channel;
+    return channel;
+}
+
+} // namespace OHOS

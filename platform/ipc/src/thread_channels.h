@@ -1,0 +1,24 @@
+/*
+ * Host: the channels of the calling thread, one per session it called through, opened on first use and closed when
+ * the thread ends. Each thread writes its own transactions and reads its own replies, so that threads never wait
+ * for each other's replies.
+ */
+#ifndef OHOS_IPC_THREAD_CHANNELS_H
+#define OHOS_IPC_THREAD_CHANNELS_H
+
+#include <memory>
+
+#include "channel.h"
+#include "session.h"
+
+namespace OHOS {
+
+class ThreadChannels {
+public:
+    // The calling thread's open channel to the session's peer; null (logged) if the peer cannot be reached.
+    static std::shared_ptr<Channel> To(const std::shared_ptr<Session>& session);
+};
+
+} // namespace OHOS
+
+#endif // OHOS_IPC_THREAD_CHANNELS_H

@@ -1,0 +1,220 @@
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+#include <unistd.h>
+#include <vector>
+
+#include "ipc_host_transport.h"
+#include "peer_process.h"
+#include "transport_test_helpers.h"
+
+namespace OHOS {
+namespace {
+using namespace std::chrono_literals;
+
+class IpcTransportTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        // This process takes part before its descriptors are counted: its listening sockets stay for good.
+        ASSERT_TRUE(IpcHostTransport::ServeContextObject(ownPath_, new IPCObjectStub(u"test.ipc.Own")));
+        fdsBefore_ = OpenFds();
+        peer_ = std::make_unique<PeerProcess>();
+        remote_ = IpcHostTransport::ConnectToContextObject(peer_->Path());
+        ASSERT_NE(remote_, nullptr);
+    }
+
+    void TearDown() override
+    {
+        remote_ = nullptr;
+        const pid_t pid = peer_ != nullptr ? peer_->Pid() : -1;
+        peer_.reset();
+        EXPECT_TRUE(IpcHostTransport::WaitForPeerGone(pid, 5s));
+        IpcHostTransport::StopServingContextObject();
+    }
+
+    int Send(PeerCode code, MessageParcel& data, MessageParcel& reply, MessageOption option = MessageOption())
+    {
+        return remote_->SendRequest(code, data, reply, option);
+    }
+
+    int32_t AskInt(PeerCode code, int32_t argument)
+    {
+        MessageParcel data;
+        MessageParcel reply;
+        data.WriteInt32(argument);
+        EXPECT_EQ(Send(code, data, reply), ERR_NONE) << "code " << code;
+        return reply.ReadInt32();
+    }
+
+    sptr<IRemoteObject> AskObject(PeerCode code, const sptr<IRemoteObject>& argument = nullptr)
+    {
+        MessageParcel data;
+        MessageParcel reply;
+        if (argument != nullptr) {
+            data.WriteRemoteObject(argument);
+        }
+        EXPECT_EQ(Send(code, data, reply), ERR_NONE) << "code " << code;
+        return reply.ReadRemoteObject();
+    }
+
+    const std::string ownPath_ = "/tmp/ipc_transport_test_" + std::to_string(getpid()) + ".sock";
+    int fdsBefore_ = 0;
+    std::unique_ptr<PeerProcess> peer_;
+    sptr<IRemoteObject> remote_;
+};
+
+TEST_F(IpcTransportTest, PeerObjectArrivesAsOneProxyAndIsReleasedWithTheLastOne)
+{
+    EXPECT_TRUE(remote_->IsProxyObject());
+    EXPECT_EQ(remote_->GetObjectDescriptor(), PEER_DESCRIPTOR);
+    EXPECT_EQ(IpcHostTransport::PeerPid(remote_), peer_->Pid());
+    EXPECT_EQ(IpcHostTransport::ConnectToContextObject(peer_->Path()), remote_);
+
+    sptr<IRemoteObject> first = AskObject(GIVE_STUB);
+    sptr<IRemoteObject> second = AskObject(GIVE_STUB);
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(first, second);
+    EXPECT_TRUE(first->IsProxyObject());
+    EXPECT_EQ(first->GetObjectDescriptor(), u"test.ipc.GivenStub");
+    first = nullptr;
+    EXPECT_EQ(AskInt(STUBS_ALIVE, 0), 1);
+    second = nullptr;
+    EXPECT_EQ(AskInt(STUBS_ALIVE, 5000), 0);
+}
+
+TEST_F(IpcTransportTest, OwnObjectSentBackArrivesAsItselfAndLivesWhileThePeerHoldsIt)
+{
+    auto destroyed = std::make_shared<Latch>();
+    sptr<IRemoteObject> stub = new TrackedStub(destroyed);
+    EXPECT_EQ(AskObject(HOLD, stub), stub);
+    EXPECT_FALSE(stub->IsProxyObject());
+    stub = nullptr;
+    EXPECT_FALSE(destroyed->IsOpen());
+    AskObject(DROP);
+    EXPECT_TRUE(destroyed->Wait(5s));
+}
+
+TEST_F(IpcTransportTest, DescriptorsAndSharedMemoryArriveWithTheirContent)
+{
+    int pipeFds[2];
+    ASSERT_EQ(pipe(pipeFds), 0);
+    ASSERT_EQ(write(pipeFds[1], "through a pipe", 14), 14);
+    close(pipeFds[1]);
+    MessageParcel data;
+    ASSERT_TRUE(data.WriteFileDescriptor(pipeFds[0]));
+    close(pipeFds[0]);
+    MessageParcel reply;
+    ASSERT_EQ(Send(READ_FD, data, reply), ERR_NONE);
+    EXPECT_EQ(reply.ReadString(), "through a pipe");
+
+    std::vector<uint8_t> block(MessageParcel::MAX_INLINE_RAW_DATA_SIZE * 2);
+    for (size_t i = 0; i < block.size(); ++i) {
+        block[i] = static_cast<uint8_t>(i * 7);
+    }
+    MessageParcel raw;
+    raw.WriteInt32(static_cast<int32_t>(block.size()));
+    ASSERT_TRUE(raw.WriteRawData(block.data(), block.size()));
+    MessageParcel rawReply;
+    ASSERT_EQ(Send(RAW_DATA, raw, rawReply), ERR_NONE);
+    const auto* echoed = static_cast<const uint8_t*>(rawReply.ReadRawData(block.size()));
+    ASSERT_NE(echoed, nullptr);
+    EXPECT_EQ(std::vector<uint8_t>(echoed, echoed + block.size()), block);
+}
+
+TEST_F(IpcTransportTest, CallPastItsWaitTimeTimesOutAndTheNextCallWorks)
+{
+    MessageParcel data;
+    MessageParcel reply;
+    data.WriteInt32(3000);
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(Send(SLEEP, data, reply, MessageOption(MessageOption::TF_SYNC, 1)), ERR_TIMED_OUT);
+    const auto elapsed = std::chrono::steady_clock::now() - start;
+    EXPECT_GE(elapsed, 1s);
+    EXPECT_LT(elapsed, 2s);
+    EXPECT_EQ(AskInt(ECHO, 7), 7);
+}
+
+TEST_F(IpcTransportTest, NestedCallsGoBothWays)
+{
+    std::atomic<bool> onIpcThread{false};
+    sptr<IRemoteObject> stub =
+        new TrackedStub(std::make_shared<Latch>(), [this, &onIpcThread](MessageParcel& data, MessageParcel& reply) {
+            onIpcThread = IpcThreads::IsIpcThread();
+            reply.WriteInt32(AskInt(ECHO, data.ReadInt32() + 1));
+            return ERR_NONE;
+        });
+    AskObject(HOLD, stub);
+    EXPECT_EQ(AskInt(CALL, 41), 42);
+    EXPECT_TRUE(onIpcThread);
+    AskObject(DROP);
+}
+
+TEST_F(IpcTransportTest, ThreadsCallAtOnceWithoutWaitingForEachOther)
+{
+    constexpr int THREADS = 8;
+    std::vector<int32_t> met(THREADS);
+    std::vector<int32_t> echoed(THREADS);
+    std::vector<std::thread> callers;
+    for (int i = 0; i < THREADS; ++i) {
+        callers.emplace_back([this, i, &met, &echoed] {
+            met[i] = AskInt(RENDEZVOUS, THREADS);
+            echoed[i] = AskInt(ECHO, i);
+        });
+    }
+    for (std::thread& caller : callers) {
+        caller.join();
+    }
+    for (int i = 0; i < THREADS; ++i) {
+        EXPECT_EQ(met[i], 1) << "caller " << i;
+        EXPECT_EQ(echoed[i], i);
+    }
+}
+
+TEST_F(IpcTransportTest, DeathOfThePeerKillsItsProxiesAndTellsEachRecipientOnce)
+{
+    const std::vector<sptr<CountingRecipient>> recipients = {new CountingRecipient(), new CountingRecipient()};
+    sptr<CountingRecipient> removed = new CountingRecipient();
+    for (const sptr<CountingRecipient>& recipient : recipients) {
+        ASSERT_TRUE(remote_->AddDeathRecipient(recipient));
+    }
+    ASSERT_TRUE(remote_->AddDeathRecipient(removed));
+    EXPECT_TRUE(remote_->RemoveDeathRecipient(removed));
+    EXPECT_FALSE(remote_->RemoveDeathRecipient(removed));
+    auto heldStubDestroyed = std::make_shared<Latch>();
+    AskObject(HOLD, new TrackedStub(heldStubDestroyed));
+
+    int pendingResult = ERR_NONE;
+    std::thread pending([this, &pendingResult] {
+        MessageParcel data;
+        MessageParcel reply;
+        data.WriteInt32(60000);
+        pendingResult = Send(SLEEP, data, reply, MessageOption(MessageOption::TF_SYNC, 120));
+    });
+    EXPECT_EQ(AskInt(SLEEPERS, 5000), 1);
+    const pid_t pid = peer_->Pid();
+    peer_->Kill();
+    pending.join();
+    EXPECT_EQ(pendingResult, ERR_DEAD_OBJECT);
+    ASSERT_TRUE(IpcHostTransport::WaitForPeerGone(pid, 5s));
+
+    EXPECT_TRUE(heldStubDestroyed->IsOpen());
+    EXPECT_TRUE(remote_->IsObjectDead());
+    MessageParcel data;
+    MessageParcel reply;
+    data.WriteInt32(1);
+    EXPECT_EQ(Send(ECHO, data, reply), ERR_DEAD_OBJECT);
+    EXPECT_FALSE(remote_->AddDeathRecipient(removed));
+    for (const sptr<CountingRecipient>& recipient : recipients) {
+        EXPECT_EQ(recipient->Calls(), 1);
+        EXPECT_TRUE(recipient->OnIpcThreadWithTheObject());
+    }
+    EXPECT_EQ(removed->Calls(), 0);
+    EXPECT_EQ(IpcHostTransport::SessionCount(), 0u);
+    remote_ = nullptr;
+    EXPECT_EQ(OpenFds(), fdsBefore_);
+}
+
+} // namespace
+} // namespace OHOS

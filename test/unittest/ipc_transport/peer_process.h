@@ -1,0 +1,51 @@
+/*
+ * A peer process for the transport tests and benchmarks: it serves a PeerService as its context object at a
+ * socket path of its own and answers the codes below. Started with posix_spawn, killed and reaped by its owner.
+ */
+#ifndef PEER_PROCESS_H
+#define PEER_PROCESS_H
+
+#include <cstdint>
+#include <string>
+#include <sys/types.h>
+
+namespace OHOS {
+
+inline constexpr char16_t PEER_DESCRIPTOR[] = u"test.ipc.PeerService";
+
+enum PeerCode : uint32_t {
+    ECHO = 1,    // the reply holds the request's bytes
+    SLEEP,       // int32 milliseconds, then true
+    SLEEPERS,    // waits up to int32 ms for a SLEEP to be in progress: int32 how many are
+    READ_FD,     // a descriptor: the string read from it
+    RAW_DATA,    // int32 size, raw data: the same raw data back
+    GIVE_STUB,   // the peer's stub, the same one while it lives
+    STUBS_ALIVE, // waits up to int32 ms for the given stub to be gone: int32 how many live
+    HOLD,        // keeps the object of the request and sends it back
+    DROP,        // lets the held object go
+    CALL,        // int32: calls the held object with NESTED and that int32, replies what it answered
+    RENDEZVOUS,  // int32 n: waits up to 5 s until n callers are inside at once: bool
+    NESTED,      // what CALL sends to the held object
+};
+
+class PeerProcess {
+public:
+    // Starts the peer; with rawFd it also echoes whatever arrives on that socket, its end of a socketpair.
+    explicit PeerProcess(int rawFd = -1);
+    ~PeerProcess();
+    PeerProcess(const PeerProcess&) = delete;
+    PeerProcess& operator=(const PeerProcess&) = delete;
+
+    pid_t Pid() const { return pid_; }
+    const std::string& Path() const { return path_; }
+    // SIGKILL, then reaped.
+    void Kill();
+
+private:
+    std::string path_;
+    pid_t pid_ = -1;
+};
+
+} // namespace OHOS
+
+#endif // PEER_PROCESS_H
