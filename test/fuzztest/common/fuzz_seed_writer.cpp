@@ -1,14 +1,17 @@
 /*
- * Writes the seed corpus of every fuzzer: well-formed replies built with the library's own writers, so that
- * the fuzzers start from what a working service sends. Run: fuzz_seed_writer <test/fuzztest folder>.
+ * Writes the seed corpus of every fuzzer: well-formed replies built with the library's own writers (and frames
+ * built with the host transport's encoder), so that the fuzzers start from what a working service sends. Run:
+ * fuzz_seed_writer <test/fuzztest folder>.
  */
 #include <cstdint>
 #include <fstream>
 #include <functional>
 #include <iostream>
 #include <string>
+#include <vector>
 
 #include "contact_info.h"
+#include "ipc_frame.h"
 #include "message_parcel.h"
 #include "parcel_util.h"
 #include "sample_records.h"
@@ -136,6 +139,51 @@ void WriteReplySeeds()
         WriteSeed("sender_reply_fuzzer", "op" + std::to_string(op), nothing, LEADING_OBJECT | op);
     }
 }
+// A frame of the host transport, behind the byte that says how many descriptors came with it.
+void WriteFrameSeed(const std::string& name, uint8_t fds, const std::vector<uint8_t>& frame)
+{
+    std::ofstream out(root + "/ipc_frame_fuzzer/corpus/" + name, std::ios::binary);
+    out.put(static_cast<char>(fds));
+    out.write(reinterpret_cast<const char*>(frame.data()), static_cast<std::streamsize>(frame.size()));
+    if (!out) {
+        std::cerr << "cannot write seed ipc_frame_fuzzer/" << name << "\n";
+        exit(1);
+    }
+}
+
+IpcFrame::Object FrameObject(uint32_t offset, IpcFrame::ObjectKind kind, uint64_t value,
+                             const std::u16string& descriptor = u"", const std::string& address = "")
+{
+    return IpcFrame::Object{offset, kind, value, descriptor, address};
+}
+
+void WriteFrameSeeds()
+{
+    const std::string address = "ohos.ipc.1234.0123456789abcdef";
+    const std::vector<uint8_t> records(48, 0);
+    WriteFrameSeed("session_hello", 0, IpcFrame::EncodeHello(IpcFrame::Kind::SESSION_HELLO, 7, 1234, address));
+    WriteFrameSeed("channel_hello", 0, IpcFrame::EncodeHello(IpcFrame::Kind::CHANNEL_HELLO, 7, 1234, address));
+    IpcFrame frame;
+    frame.kind = IpcFrame::Kind::TRANSACTION;
+    frame.code = 3;
+    frame.objects = {FrameObject(0, IpcFrame::ObjectKind::EXPORTED, 5, u"test.Listener"),
+                     FrameObject(24, IpcFrame::ObjectKind::DESCRIPTOR, 0)};
+    WriteFrameSeed("transaction", 1, frame.Encode(records.data(), records.size(), 1));
+    frame.objects = {FrameObject(0, IpcFrame::ObjectKind::FOREIGN, 9, u"test.Service", address),
+                     FrameObject(24, IpcFrame::ObjectKind::RETURNED, 2)};
+    WriteFrameSeed("foreign", 0, frame.Encode(records.data(), records.size(), 0));
+    frame.kind = IpcFrame::Kind::REPLY;
+    frame.objects = {FrameObject(0, IpcFrame::ObjectKind::RETURNED, 3)};
+    WriteFrameSeed("reply", 0, frame.Encode(records.data(), records.size(), 0));
+    IpcFrame failed;
+    failed.kind = IpcFrame::Kind::REPLY;
+    failed.status = 5;
+    WriteFrameSeed("failed_reply", 0, failed.Encode(nullptr, 0, 0));
+    IpcFrame release;
+    release.kind = IpcFrame::Kind::RELEASE;
+    release.handle = 4;
+    WriteFrameSeed("release", 0, release.Encode(nullptr, 0, 0));
+}
 } // namespace
 
 int main(int argc, char** argv)
@@ -147,5 +195,6 @@ int main(int argc, char** argv)
     root = argv[1];
     WriteRecordSeeds();
     WriteReplySeeds();
+    WriteFrameSeeds();
     return 0;
 }

@@ -1,0 +1,51 @@
+/*
+ * The frame decoder of the host transport reads what other processes send. Input: one byte whose low two bits say
+ * how many descriptors came with the frame, then the frame's bytes.
+ */
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+#include <optional>
+#include <sys/eventfd.h>
+#include <unistd.h>
+#include <vector>
+
+#include "ipc_frame.h"
+
+namespace {
+constexpr uint8_t DESCRIPTOR_COUNT_MASK = 0x3;
+
+// The lowest free descriptor number: the same after an input as before it, unless one leaked.
+int LowestFreeDescriptor()
+{
+    const int probe = eventfd(0, EFD_CLOEXEC);
+    close(probe);
+    return probe;
+}
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
+{
+    using OHOS::IpcFrame;
+    if (size == 0) {
+        return 0;
+    }
+    const int lowestFree = LowestFreeDescriptor();
+    std::vector<OHOS::UniqueFd> fds;
+    for (int i = 0; i < (data[0] & DESCRIPTOR_COUNT_MASK); ++i) {
+        fds.emplace_back(eventfd(0, EFD_CLOEXEC));
+    }
+    const std::vector<uint8_t> bytes(data + 1, data + size);
+    const char* error = nullptr;
+    std::optional<IpcFrame> frame = IpcFrame::Decode(bytes, std::move(fds), error);
+    // A refusal has a reason; an accepted frame has exactly one encoding, the one it arrived in.
+    if (frame.has_value() ? frame->Encode(frame->Data(), frame->DataSize(), frame->fds.size()) != bytes
+                          : error == nullptr) {
+        abort();
+    }
+    frame.reset();
+    if (LowestFreeDescriptor() != lowestFree) {
+        abort();
+    }
+    return 0;
+}
