@@ -90,9 +90,11 @@ Result ReadExactly(int socket, uint8_t* data, size_t size, const FrameSocket::De
                    std::vector<UniqueFd>& fds, bool frameStart)
 {
     alignas(cmsghdr) char control[CMSG_SPACE(IpcFrame::MAX_FDS * sizeof(int))];
+    // The rest of a frame is usually there already: it is read before any wait.
+    bool await = frameStart;
     size_t got = 0;
     while (got < size) {
-        const Result ready = AwaitReadable(socket, deadline);
+        const Result ready = await ? AwaitReadable(socket, deadline) : Result::OK;
         if (ready != Result::OK) {
             return ready;
         }
@@ -102,7 +104,11 @@ Result ReadExactly(int socket, uint8_t* data, size_t size, const FrameSocket::De
         message.msg_iovlen = 1;
         message.msg_control = control;
         message.msg_controllen = sizeof(control);
-        const ssize_t count = recvmsg(socket, &message, MSG_CMSG_CLOEXEC);
+        const ssize_t count = recvmsg(socket, &message, MSG_CMSG_CLOEXEC | (deadline.has_value() ? MSG_DONTWAIT : 0));
+        if (count < 0 && (errno == EAGAIN || errno == EWOULDBLOCK)) {
+            await = true;
+            continue;
+        }
         if (count < 0 && errno == EINTR) {
             continue;
         }

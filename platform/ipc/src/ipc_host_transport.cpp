@@ -50,8 +50,8 @@ ServedContext& Served()
 bool ClearPath(const std::string& path)
 {
     struct stat status {};
-    if (lstat(path.c_str(), &status) != 0) {
-        return errno == ENOENT;
+    if (lstat(path.c_str(), &status) != 0 && errno == ENOENT) {
+        return true;
     }
     if (!S_ISSOCK(status.st_mode)) {
         IPC_HOST_LOGE("%{public}s exists and is not a socket", path.c_str());
@@ -61,7 +61,11 @@ bool ClearPath(const std::string& path)
         IPC_HOST_LOGE("another process serves at %{public}s", path.c_str());
         return false;
     }
-    return unlink(path.c_str()) == 0;
+    if (unlink(path.c_str()) != 0) {
+        IPC_HOST_LOGE("cannot remove the stale socket %{public}s, errno %{public}d", path.c_str(), errno);
+        return false;
+    }
+    return true;
 }
 } // namespace
 

@@ -43,6 +43,10 @@ int SessionProxy::Transact(uint32_t code, MessageParcel& data, MessageParcel& re
         IPC_HOST_LOGW("code %{public}u sent to a dead object", code);
         return ERR_DEAD_OBJECT;
     }
+    std::shared_ptr<Channel> channel = ThreadChannels::To(session);
+    if (channel == nullptr) {
+        return ERR_DEAD_OBJECT;
+    }
     IpcFrame request;
     request.kind = IpcFrame::Kind::TRANSACTION;
     request.handle = handle;
@@ -54,10 +58,6 @@ int SessionProxy::Transact(uint32_t code, MessageParcel& data, MessageParcel& re
     if (result != ERR_NONE) {
         return result;
     }
-    std::shared_ptr<Channel> channel = ThreadChannels::To(session);
-    if (channel == nullptr) {
-        return ERR_DEAD_OBJECT;
-    }
     const bool oneWay = (option.GetFlags() & MessageOption::TF_ASYNC) != 0;
     IpcFrame answer;
     result = channel->Call(bytes, fds, DeadlineOf(option), oneWay ? nullptr : &answer);
@@ -65,7 +65,10 @@ int SessionProxy::Transact(uint32_t code, MessageParcel& data, MessageParcel& re
         IPC_HOST_LOGE("code %{public}u to pid %{public}d failed: %{public}d", code, session->PeerPid(), result);
         return result;
     }
-    if (oneWay || answer.status != ERR_NONE) {
+    if (oneWay) {
+        return ERR_NONE;
+    }
+    if (answer.status != ERR_NONE) {
         return answer.status;
     }
     if (!ParcelWire::ToParcel(answer, session, &SessionProxy::Import, reply)) {

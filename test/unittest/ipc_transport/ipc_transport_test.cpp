@@ -28,9 +28,7 @@ protected:
     void TearDown() override
     {
         remote_ = nullptr;
-        const pid_t pid = peer_ != nullptr ? peer_->Pid() : -1;
         peer_.reset();
-        EXPECT_TRUE(IpcHostTransport::WaitForPeerGone(pid, 5s));
         IpcHostTransport::StopServingContextObject();
     }
 
@@ -39,23 +37,26 @@ protected:
         return remote_->SendRequest(code, data, reply, option);
     }
 
-    int32_t AskInt(PeerCode code, int32_t argument)
+    int32_t AskInt(PeerCode code, int32_t argument, const sptr<IRemoteObject>& peer = nullptr)
     {
         MessageParcel data;
         MessageParcel reply;
+        MessageOption option;
         data.WriteInt32(argument);
-        EXPECT_EQ(Send(code, data, reply), ERR_NONE) << "code " << code;
+        EXPECT_EQ((peer != nullptr ? peer : remote_)->SendRequest(code, data, reply, option), ERR_NONE) << code;
         return reply.ReadInt32();
     }
 
-    sptr<IRemoteObject> AskObject(PeerCode code, const sptr<IRemoteObject>& argument = nullptr)
+    sptr<IRemoteObject> AskObject(PeerCode code, const sptr<IRemoteObject>& argument = nullptr,
+                                  const sptr<IRemoteObject>& peer = nullptr)
     {
         MessageParcel data;
         MessageParcel reply;
+        MessageOption option;
         if (argument != nullptr) {
             data.WriteRemoteObject(argument);
         }
-        EXPECT_EQ(Send(code, data, reply), ERR_NONE) << "code " << code;
+        EXPECT_EQ((peer != nullptr ? peer : remote_)->SendRequest(code, data, reply, option), ERR_NONE) << code;
         return reply.ReadRemoteObject();
     }
 
@@ -94,6 +95,20 @@ TEST_F(IpcTransportTest, OwnObjectSentBackArrivesAsItselfAndLivesWhileThePeerHol
     EXPECT_FALSE(destroyed->IsOpen());
     AskObject(DROP);
     EXPECT_TRUE(destroyed->Wait(5s));
+}
+
+TEST_F(IpcTransportTest, ThirdProcessObjectKeepsItsIdentityAndLivesWhileAnyProcessHoldsIt)
+{
+    PeerProcess holder;
+    const sptr<IRemoteObject> holderRemote = IpcHostTransport::ConnectToContextObject(holder.Path());
+    ASSERT_NE(holderRemote, nullptr);
+    sptr<IRemoteObject> given = AskObject(GIVE_STUB);
+    EXPECT_EQ(AskObject(HOLD, given, holderRemote), given);
+    EXPECT_EQ(IpcHostTransport::PeerPid(given), peer_->Pid());
+    given = nullptr;
+    EXPECT_EQ(AskInt(STUBS_ALIVE, 0), 1);
+    AskObject(DROP, nullptr, holderRemote);
+    EXPECT_EQ(AskInt(STUBS_ALIVE, 5000), 0);
 }
 
 TEST_F(IpcTransportTest, DescriptorsAndSharedMemoryArriveWithTheirContent)
@@ -145,7 +160,11 @@ TEST_F(IpcTransportTest, NestedCallsGoBothWays)
             reply.WriteInt32(AskInt(ECHO, data.ReadInt32() + 1));
             return ERR_NONE;
         });
-    AskObject(HOLD, stub);
+    MessageParcel data;
+    MessageParcel reply;
+    data.WriteRemoteObject(stub);
+    // One-way: served before the next request of this thread, which comes on the same channel.
+    ASSERT_EQ(Send(HOLD, data, reply, MessageOption(MessageOption::TF_ASYNC)), ERR_NONE);
     EXPECT_EQ(AskInt(CALL, 41), 42);
     EXPECT_TRUE(onIpcThread);
     AskObject(DROP);

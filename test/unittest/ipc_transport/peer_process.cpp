@@ -9,6 +9,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "ipc_host_transport.h"
+
 extern char** environ;
 
 namespace OHOS {
@@ -50,7 +52,9 @@ PeerProcess::PeerProcess(int rawFd) :
 
 PeerProcess::~PeerProcess()
 {
+    const pid_t pid = pid_;
     Kill();
+    IpcHostTransport::WaitForPeerGone(pid, std::chrono::seconds(5));
     unlink(path_.c_str());
 }
 

@@ -32,6 +32,7 @@ class PeerProcess {
 public:
     // Starts the peer; with rawFd it also echoes whatever arrives on that socket, its end of a socketpair.
     explicit PeerProcess(int rawFd = -1);
+    // Killed, reaped, and gone from this process's sessions.
     ~PeerProcess();
     PeerProcess(const PeerProcess&) = delete;
     PeerProcess& operator=(const PeerProcess&) = delete;
