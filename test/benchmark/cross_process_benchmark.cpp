@@ -1,0 +1,110 @@
+/*
+ * A call across processes against the floor of any transport: the bare SendRequest of a small request to a peer
+ * process, and a raw round trip of the same bytes over a socketpair between the same two processes. And calls from
+ * eight threads across processes against one, to a stub that takes 2 ms.
+ */
+#include <benchmark/benchmark.h>
+
+#include <cstdlib>
+#include <memory>
+#include <sys/socket.h>
+#include <unistd.h>
+#include <vector>
+
+#include "ipc_host_transport.h"
+#include "message_option.h"
+#include "message_parcel.h"
+#include "peer_process.h"
+
+namespace OHOS {
+namespace {
+
+struct Peer {
+    std::unique_ptr<PeerProcess> process;
+    // This process's end of the socketpair on which the peer echoes.
+    int raw = -1;
+    sptr<IRemoteObject> remote;
+};
+
+Peer& ThePeer()
+{
+    static Peer* peer = [] {
+        auto* started = new Peer();
+        int pair[2];
+        if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, pair) != 0) {
+            abort();
+        }
+        started->process = std::make_unique<PeerProcess>(pair[1]);
+        close(pair[1]);
+        started->raw = pair[0];
+        started->remote = IpcHostTransport::ConnectToContextObject(started->process->Path());
+        std::atexit([] { ThePeer().process.reset(); });
+        return started;
+    }();
+    return *peer;
+}
+
+// Started on the main thread: the peer dies with the thread that started it, and benchmark threads come and go.
+const Peer& g_peer = ThePeer();
+
+void WriteSmallRequest(MessageParcel& data)
+{
+    data.WriteInterfaceToken(PEER_DESCRIPTOR);
+    data.WriteInt32(1);
+}
+
+void BM_RawSocketRoundTrip(benchmark::State& state)
+{
+    MessageParcel data;
+    WriteSmallRequest(data);
+    const auto* request = reinterpret_cast<const uint8_t*>(data.GetData());
+    const size_t size = data.GetDataSize();
+    std::vector<uint8_t> answer(size);
+    for (auto _ : state) {
+        size_t got = 0;
+        ssize_t count = write(g_peer.raw, request, size);
+        while (count > 0 && got < size && (count = read(g_peer.raw, answer.data() + got, size - got)) > 0) {
+            got += static_cast<size_t>(count);
+        }
+        if (got != size) {
+            state.SkipWithError("the round trip failed");
+            break;
+        }
+    }
+}
+BENCHMARK(BM_RawSocketRoundTrip);
+
+void BM_CrossProcessSendRequest(benchmark::State& state)
+{
+    MessageParcel data;
+    WriteSmallRequest(data);
+    for (auto _ : state) {
+        MessageParcel reply;
+        MessageOption option;
+        if (g_peer.remote->SendRequest(ECHO, data, reply, option) != ERR_NONE ||
+            reply.GetDataSize() != data.GetDataSize()) {
+            state.SkipWithError("the request failed");
+            break;
+        }
+    }
+}
+BENCHMARK(BM_CrossProcessSendRequest);
+
+void BM_CrossProcessConcurrentCalls(benchmark::State& state)
+{
+    MessageParcel data;
+    data.WriteInt32(2);
+    for (auto _ : state) {
+        MessageParcel reply;
+        MessageOption option;
+        if (g_peer.remote->SendRequest(SLEEP, data, reply, option) != ERR_NONE) {
+            state.SkipWithError("the request failed");
+            break;
+        }
+    }
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(BM_CrossProcessConcurrentCalls)->Threads(1)->Threads(8)->UseRealTime()->MinTime(1.0);
+
+} // namespace
+} // namespace OHOS
