@@ -48,13 +48,19 @@ sptr<IRemoteObject> Session::Import(uint64_t handle, const std::function<sptr<IR
 
 void Session::Forget(uint64_t handle, const IRemoteObject* object)
 {
+    // Let go after the lock: a recipient's last reference may lead back here.
+    Watch forgotten;
     {
         std::lock_guard<std::mutex> lock(mutex_);
         auto it = imports_.find(handle);
         if (it != imports_.end() && it->second == object) {
             imports_.erase(it);
         }
-        watches_.erase(object);
+        auto watch = watches_.find(object);
+        if (watch != watches_.end()) {
+            forgotten = std::move(watch->second);
+            watches_.erase(watch);
+        }
     }
     SendRelease(handle);
 }
@@ -139,7 +145,7 @@ void Session::ReadUntilEnd()
 
 void Session::End()
 {
-    std::vector<std::pair<sptr<IRemoteObject>, std::vector<Recipient>>> notices;
+    std::map<const IRemoteObject*, Watch> watches;
     std::vector<std::weak_ptr<Channel>> channels;
     {
         std::lock_guard<std::mutex> lock(sendMutex_);
@@ -148,20 +154,9 @@ void Session::End()
     {
         std::lock_guard<std::mutex> lock(mutex_);
         alive_.store(false, std::memory_order_release);
-        for (auto& [object, watch] : watches_) {
-            // Promoted only to be kept: a reference dropped here could be the last, which comes back to this lock.
-            // An object whose last reference is going has nobody left to tell.
-            if (watch.recipients.empty()) {
-                continue;
-            }
-            if (sptr<IRemoteObject> watched = watch.object.promote()) {
-                notices.emplace_back(std::move(watched), std::move(watch.recipients));
-            }
-        }
-        watches_.clear();
+        watches.swap(watches_);
         imports_.clear();
         channels.swap(channels_);
-        noticesPending_ = !notices.empty();
     }
     ExportTable::OfProcess().ReleaseAll(serial_);
     for (const std::weak_ptr<Channel>& held : channels) {
@@ -169,7 +164,18 @@ void Session::End()
             channel->Retire();
         }
     }
-    if (!notices.empty()) {
+    std::vector<std::pair<sptr<IRemoteObject>, std::vector<Recipient>>> notices;
+    for (auto& [object, watch] : watches) {
+        // An object whose last reference is going has nobody left to tell.
+        sptr<IRemoteObject> watched = watch.object.promote();
+        if (watched != nullptr && !watch.recipients.empty()) {
+            notices.emplace_back(std::move(watched), std::move(watch.recipients));
+        }
+    }
+    std::lock_guard<std::mutex> lock(mutex_);
+    ended_ = true;
+    noticesPending_ = !notices.empty();
+    if (noticesPending_) {
         IpcThreads::Post([self = shared_from_this(), notices = std::move(notices)] {
             for (const auto& [object, recipients] : notices) {
                 for (const Recipient& recipient : recipients) {
@@ -179,8 +185,6 @@ void Session::End()
             self->NoticesDone();
         });
     }
-    std::lock_guard<std::mutex> lock(mutex_);
-    ended_ = true;
     changed_.notify_all();
 }
 

@@ -6,12 +6,12 @@
 #include <condition_variable>
 #include <csignal>
 #include <cstdlib>
-#include <functional>
 #include <mutex>
 #include <string>
 #include <sys/prctl.h>
 #include <thread>
 #include <unistd.h>
+#include <vector>
 
 #include "ipc_host_transport.h"
 #include "ipc_object_stub.h"
@@ -32,10 +32,10 @@ public:
         case ECHO:
             return Answer(reply.WriteBuffer(reinterpret_cast<const void*>(data.GetData()), data.GetDataSize()));
         case SLEEP:
-            return Answer(Sleep(milliseconds(data.ReadInt32())) && reply.WriteBool(true));
+            Sleep(milliseconds(data.ReadInt32()));
+            return Answer(reply.WriteBool(true));
         case SLEEPERS:
-            return Answer(reply.WriteInt32(Await(
-                data.ReadInt32(), [this] { return sleepers_ > 0; }, sleepers_)));
+            return Answer(reply.WriteInt32(Await(data.ReadInt32(), sleepers_, false)));
         case READ_FD:
             return Answer(reply.WriteString(ReadAll(data.ReadFileDescriptor())));
         case RAW_DATA: {
@@ -46,8 +46,7 @@ public:
         case GIVE_STUB:
             return Answer(reply.WriteRemoteObject(GivenStub()));
         case STUBS_ALIVE:
-            return Answer(reply.WriteInt32(Await(
-                data.ReadInt32(), [this] { return given_ == 0; }, given_)));
+            return Answer(reply.WriteInt32(Await(data.ReadInt32(), given_, true)));
         case HOLD:
             return Answer(reply.WriteRemoteObject(Hold(data.ReadRemoteObject())));
         case DROP:
@@ -59,6 +58,13 @@ public:
         default:
             return IPC_STUB_UNKNOW_TRANS_ERR;
         }
+    }
+
+    // Writes how many arguments it got into the descriptor, which is the caller's.
+    int Dump(int fd, const std::vector<std::u16string>& args) override
+    {
+        const std::string text = "dump " + std::to_string(args.size());
+        return Answer(write(fd, text.data(), text.size()) == static_cast<ssize_t>(text.size()));
     }
 
 private:
@@ -93,20 +99,19 @@ private:
         changed_.notify_all();
     }
 
-    // Waits until done() or the timeout, then reads the counter.
-    int Await(int32_t timeoutMs, const std::function<bool()>& done, const int& counter)
+    // Waits up to the timeout until the counter is zero (or until it is not); its value then.
+    int Await(int32_t timeoutMs, const int& counter, bool untilZero)
     {
         std::unique_lock<std::mutex> lock(mutex_);
-        changed_.wait_for(lock, milliseconds(timeoutMs), done);
+        changed_.wait_for(lock, milliseconds(timeoutMs), [&] { return (counter == 0) == untilZero; });
         return counter;
     }
 
-    bool Sleep(milliseconds duration)
+    void Sleep(milliseconds duration)
     {
         Changed([this] { ++sleepers_; });
         std::this_thread::sleep_for(duration);
         Changed([this] { --sleepers_; });
-        return true;
     }
 
     sptr<IRemoteObject> GivenStub()

@@ -111,7 +111,7 @@ TEST_F(IpcTransportTest, ThirdProcessObjectKeepsItsIdentityAndLivesWhileAnyProce
     EXPECT_EQ(AskInt(STUBS_ALIVE, 5000), 0);
 }
 
-TEST_F(IpcTransportTest, DescriptorsAndSharedMemoryArriveWithTheirContent)
+TEST_F(IpcTransportTest, DescriptorsSharedMemoryAndDumpsArriveWithTheirContent)
 {
     int pipeFds[2];
     ASSERT_EQ(pipe(pipeFds), 0);
@@ -123,6 +123,13 @@ TEST_F(IpcTransportTest, DescriptorsAndSharedMemoryArriveWithTheirContent)
     MessageParcel reply;
     ASSERT_EQ(Send(READ_FD, data, reply), ERR_NONE);
     EXPECT_EQ(reply.ReadString(), "through a pipe");
+    ASSERT_EQ(pipe(pipeFds), 0);
+    EXPECT_EQ(remote_->Dump(pipeFds[1], {u"-a", u"-b"}), ERR_NONE);
+    close(pipeFds[1]);
+    char dumped[16] = {};
+    EXPECT_GT(read(pipeFds[0], dumped, sizeof(dumped)), 0);
+    close(pipeFds[0]);
+    EXPECT_STREQ(dumped, "dump 2");
 
     std::vector<uint8_t> block(MessageParcel::MAX_INLINE_RAW_DATA_SIZE * 2);
     for (size_t i = 0; i < block.size(); ++i) {
