@@ -63,8 +63,9 @@ int DumpTo(IRemoteObject& target, MessageParcel& data)
     UniqueFd fd(data.ReadFileDescriptor());
     const int32_t count = data.ReadInt32();
     std::vector<std::u16string> args;
-    for (int32_t i = 0; i < count && data.GetReadableBytes() > 0; ++i) {
-        args.push_back(data.ReadString16());
+    std::u16string arg;
+    for (int32_t i = 0; i < count && data.ReadString16(arg); ++i) {
+        args.push_back(arg);
     }
     return target.Dump(fd.Get(), args);
 }
