@@ -34,7 +34,7 @@ void AddCannedCommands(CLI::App& app, std::string& argument)
     for (const Command& command : Commands()) {
         CLI::App* sub = app.add_subcommand(command.name, command.description);
         if (command.argumentName != nullptr) {
-            sub->add_option(command.argumentName, argument);
+            sub->add_option(command.argumentName, argument, command.description)->type_name("");
         }
     }
 }
@@ -62,6 +62,7 @@ std::optional<CommandLine> ParseCommandLine(int argc, char* argv[])
                  "arguments. The share service is loaded on demand, as on a device; the share manager service runs.",
                  "sharectl");
     app.footer(Footer());
+    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
     // Options may come after the command too.
     app.fallthrough();
     app.require_subcommand(0, 1);
@@ -71,12 +72,14 @@ std::optional<CommandLine> ParseCommandLine(int argc, char* argv[])
     app.add_flag("--trace", line.trace, "print every request and reply as decoded fields beside their bytes");
     app.add_flag("--json", line.json, "print the result as one JSON document, for scripts");
     app.add_flag("--dump", line.dump, "print each emulated service's state after the command");
-    app.add_option("--log-level", logLevel,
-                   "log lines shown on stderr: debug (every line of the library and the emulator), info (loads,\n"
-                   "connections, the operations that log at INFO), warn (the default: warnings and errors), error")
-        ->check(CLI::IsMember({"debug", "info", "warn", "error"}));
-    app.add_option("--world", line.worldFile, "start the emulator from this world file (the schema of 'world')");
-    app.add_option("--fault", faults, "inject a fault (see below); repeatable")->allow_extra_args(false);
+    app.add_option("--log-level", logLevel, "log lines shown on stderr: debug (all), info, warn (the default), error")
+        ->check(CLI::IsMember({"debug", "info", "warn", "error"}))
+        ->type_name("LEVEL");
+    app.add_option("--world", line.worldFile, "start the emulator from this world file (the schema of 'world')")
+        ->type_name("FILE");
+    app.add_option("--fault", faults, "inject a fault (see below); repeatable")
+        ->allow_extra_args(false)
+        ->type_name("SPEC");
     AddCannedCommands(app, cannedArgument);
     AddToolCommands(app, line);
     try {

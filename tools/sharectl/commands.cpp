@@ -50,7 +50,7 @@ const std::vector<Command>& Commands()
          "report two found devices, one too old to collaborate",
          {LOAD_STEP, SUBSCRIBE_STEP, SKIP_DEVICE_STEP, FORWARD_DEVICE_STEP}},
         {"send-file",
-         "send a regular file by its descriptor; - for standard input; a temporary file of demo content by default",
+         "send a regular file by its descriptor (- for standard input; demo content by default)",
          {LOAD_STEP, SEND_FILE_STEP},
          "PATH",
          PrepareFile},
