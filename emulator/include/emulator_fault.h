@@ -1,7 +1,7 @@
 /*
  * A fault that the emulated services play on demand, so that an application can see its own error paths: loads
  * that fail or answer late, a share service process that dies, hostile replies. Written as text by
- * `sharectl --fault SPEC`; EmulatorFault::GRAMMAR says how.
+ * `sharectl --fault FAULT`; EmulatorFault::GRAMMAR says how.
  */
 #ifndef EMULATOR_FAULT_H
 #define EMULATOR_FAULT_H
@@ -27,10 +27,10 @@ struct EmulatorFault {
     Kind kind = Kind::LOAD_FAILS;
     uint32_t value = 1;
 
-    // One line per form of SPEC, for help texts.
+    // One line per form of FAULT, for help texts.
     static const char* const GRAMMAR;
-    // Empty, with the reason in `error`, for a SPEC that is not one of GRAMMAR's forms.
-    static std::optional<EmulatorFault> Parse(const std::string& spec, std::string& error);
+    // Empty, with the reason in `error`, for a FAULT text that is not one of GRAMMAR's forms.
+    static std::optional<EmulatorFault> Parse(const std::string& text, std::string& error);
 };
 
 } // namespace Zelkon

@@ -49,10 +49,10 @@ const char* const EmulatorFault::GRAMMAR =
     "  truncated-record    the next reply that carries records ends in the middle of its last record\n"
     "  big-string          the next preview data reply is a big string above its limit of 5 MiB\n";
 
-std::optional<EmulatorFault> EmulatorFault::Parse(const std::string& spec, std::string& error)
+std::optional<EmulatorFault> EmulatorFault::Parse(const std::string& text, std::string& error)
 {
-    const size_t colon = spec.find(':');
-    const std::string name = spec.substr(0, colon);
+    const size_t colon = text.find(':');
+    const std::string name = text.substr(0, colon);
     for (const Form& form : FORMS) {
         if (name != form.name) {
             continue;
@@ -61,7 +61,7 @@ std::optional<EmulatorFault> EmulatorFault::Parse(const std::string& spec, std::
         fault.kind = form.kind;
         if (colon == std::string::npos) {
             if (form.number == Form::Number::REQUIRED) {
-                error = "fault '" + spec + "' needs a number: " + name + ":NUMBER";
+                error = "fault '" + text + "' needs a number: " + name + ":NUMBER";
                 return std::nullopt;
             }
             return fault;
@@ -70,15 +70,15 @@ std::optional<EmulatorFault> EmulatorFault::Parse(const std::string& spec, std::
             error = "fault '" + name + "' takes no number";
             return std::nullopt;
         }
-        const std::string number = spec.substr(colon + 1);
+        const std::string number = text.substr(colon + 1);
         if (!ParseNumber(number, fault.value) || fault.value < form.minimum || fault.value > form.maximum) {
-            error = "fault '" + spec + "': '" + number + "' is not a number from " + std::to_string(form.minimum) +
+            error = "fault '" + text + "': '" + number + "' is not a number from " + std::to_string(form.minimum) +
                     " to " + std::to_string(form.maximum);
             return std::nullopt;
         }
         return fault;
     }
-    error = "unknown fault '" + spec + "'";
+    error = "unknown fault '" + text + "'";
     return std::nullopt;
 }
 

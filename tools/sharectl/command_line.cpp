@@ -16,7 +16,7 @@ const std::map<std::string, LogLevel> LOG_LEVELS{
 
 std::string Footer()
 {
-    return std::string("\nFaults (--fault SPEC, repeatable; each plays once):\n") + EmulatorFault::GRAMMAR +
+    return std::string("\nFaults (--fault FAULT, repeatable; each plays once):\n") + EmulatorFault::GRAMMAR +
            "\nExit status: 0 when the command did what it should (every step passed, the call was made), 1 when a\n"
            "step failed or the output could not be written, 2 for a usage error (nothing was run).\n"
            "\nExamples:\n"
@@ -79,7 +79,7 @@ std::optional<CommandLine> ParseCommandLine(int argc, char* argv[])
         ->type_name("FILE");
     app.add_option("--fault", faults, "inject a fault (see below); repeatable")
         ->allow_extra_args(false)
-        ->type_name("SPEC");
+        ->type_name("FAULT");
     AddCannedCommands(app, cannedArgument);
     AddToolCommands(app, line);
     try {
@@ -100,9 +100,9 @@ std::optional<CommandLine> ParseCommandLine(int argc, char* argv[])
         }
     }
     line.logLevel = LOG_LEVELS.at(logLevel);
-    for (const std::string& spec : faults) {
+    for (const std::string& text : faults) {
         std::string error;
-        const std::optional<EmulatorFault> fault = EmulatorFault::Parse(spec, error);
+        const std::optional<EmulatorFault> fault = EmulatorFault::Parse(text, error);
         if (!fault) {
             throw UsageError("--fault: " + error);
         }
