@@ -1,6 +1,6 @@
 # Host packaging: `cmake --install` puts the library (with its SONAME), its public headers, the host platform
-# libraries it links, a CMake package (find_package(share_client) -> share_client::share_client) and a pkg-config
-# file under the prefix.
+# libraries it links, a CMake package (find_package(share_client) -> share_client::share_client and
+# share_client::share_emulator) and pkg-config files (share_client, share_emulator) under the prefix.
 include(GNUInstallDirs)
 include(CMakePackageConfigHelpers)
 
@@ -53,8 +53,11 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/share_client-config-versi
 install(FILES ${PROJECT_BINARY_DIR}/share_client-config.cmake ${PROJECT_BINARY_DIR}/share_client-config-version.cmake
     DESTINATION ${share_cmake_dir} COMPONENT development)
 
-# The pkg-config file locates the prefix from its own folder, so the package can be installed with any --prefix.
+# The pkg-config files locate the prefix from their own folder, so the package can be installed with any --prefix;
+# an application linked by them finds the libraries where they were installed, without LD_LIBRARY_PATH.
 file(RELATIVE_PATH share_pc_prefix /prefix/${CMAKE_INSTALL_LIBDIR}/pkgconfig /prefix)
-configure_file(${CMAKE_CURRENT_LIST_DIR}/share_client.pc.in ${PROJECT_BINARY_DIR}/share_client.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/share_client.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
-    COMPONENT development)
+foreach(package share_client share_emulator)
+    configure_file(${CMAKE_CURRENT_LIST_DIR}/${package}.pc.in ${PROJECT_BINARY_DIR}/${package}.pc @ONLY)
+    install(FILES ${PROJECT_BINARY_DIR}/${package}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+        COMPONENT development)
+endforeach()

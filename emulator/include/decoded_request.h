@@ -1,6 +1,7 @@
 /*
- * One request as an emulated service saw it: what it decoded field by field, what it answered, and the bytes of
- * both parcels, for traces and tests.
+ * One request as an emulated service saw it: what it decoded field by field, what it answered, what it noted
+ * beside the wire (what it did, what it found behind a descriptor, a fault it played), and the bytes of both
+ * parcels, for traces and tests. Fields of a list's records carry their index ("users[1].deviceId").
  */
 #ifndef DECODED_REQUEST_H
 #define DECODED_REQUEST_H
@@ -23,6 +24,8 @@ struct DecodedRequest {
     std::string operation;
     Fields fields;
     Fields replyFields;
+    // The emulator's own notes: not on the wire.
+    Fields notes;
     // What the caller's SendRequest returns: 0, or the error that refused the request.
     int result = 0;
     std::vector<uint8_t> requestBytes;

@@ -1,7 +1,7 @@
 /*
  * Stand-ins for the two share services on a host: the share service (65569) is loaded on demand by the host system
  * ability manager, as on a device; the share manager service (65570) is simply running. Both decode every request
- * independently of the library and keep a little coherent state.
+ * independently of the library and keep a little coherent state, seeded from a world.
  */
 #ifndef SHARE_EMULATOR_H
 #define SHARE_EMULATOR_H
@@ -10,6 +10,8 @@
 #include <string>
 
 #include "decoded_request.h"
+#include "emulated_world.h"
+#include "emulator_fault.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -23,16 +25,23 @@ inline constexpr const char16_t* RECEIVER_TOKEN = u"ohos.zelkon.ZelkonReceiver";
 
 class ShareEmulator {
 public:
-    // Registers the loader of the share service and starts the share manager service. Every load starts a fresh
-    // share service process with its initial state.
-    static void Install();
+    // Registers the loader of the share service and starts the share manager service from `world`, dropping the
+    // faults armed before. Every load starts a fresh share service process with the world's permanent devices.
+    static void Install(const EmulatedWorld& world = EmulatedWorld::BuiltIn());
     // Kills both services and forgets the loader.
     static void Uninstall();
-    // The service's process dies: its clients get their death notices. False if it was not running.
+    // The service's process dies: its clients get their death notices, and these have been delivered in this
+    // process when the call returns (unless it is made on an IPC thread, which cannot wait for itself). False if
+    // it was not running.
     static bool KillShareService();
     static bool KillShareManagerService();
     // Receives every request of both services, on the caller's thread. An empty sink stops the trace.
     static void SetTraceSink(TraceSink sink);
+    // Arms a fault for the next load or request that it concerns; each armed fault plays once.
+    static void InjectFault(const EmulatorFault& fault);
+    // Each service's state as indented JSON: listeners and callbacks, transfers, devices, the switch, and its
+    // requests counted by code; a service whose process is not running shows only that.
+    static std::string DumpState();
 };
 
 } // namespace Zelkon

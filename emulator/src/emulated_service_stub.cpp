@@ -5,10 +5,14 @@
 #include "emulator_log.h"
 #include "field_text.h"
 #include "ipc_types.h"
+#include "samgr_host_control.h"
 
 namespace OHOS {
 namespace Zelkon {
 namespace {
+// Enough to end a reply in the middle of its last record, whatever that record's last field is.
+constexpr size_t TRUNCATED_BYTES = 4;
+
 std::vector<uint8_t> BytesOf(const MessageParcel& parcel)
 {
     const auto* begin = reinterpret_cast<const uint8_t*>(parcel.GetData());
@@ -25,10 +29,11 @@ std::string Narrow(const std::u16string& text)
 }
 } // namespace
 
-EmulatedServiceStub::EmulatedServiceStub(const std::u16string& token, std::string serviceName,
-                                         std::shared_ptr<TraceChannel> trace) :
+EmulatedServiceStub::EmulatedServiceStub(const std::u16string& token, std::string serviceName, int32_t systemAbilityId,
+                                         ServiceChannels channels) :
     IPCObjectStub(token),
-    token_(token), serviceName_(std::move(serviceName)), trace_(std::move(trace))
+    token_(token), serviceName_(std::move(serviceName)), systemAbilityId_(systemAbilityId),
+    channels_(std::move(channels))
 {
 }
 
@@ -36,16 +41,62 @@ int EmulatedServiceStub::OnRemoteRequest(uint32_t code, MessageParcel& data, Mes
                                          MessageOption& option)
 {
     (void)option;
+    {
+        std::lock_guard<std::mutex> lock(countsMutex_);
+        ++requestCounts_[code];
+    }
     DecodedRequest decoded;
     decoded.service = serviceName_;
     decoded.code = code;
-    decoded.result = Dispatch(code, data, reply, decoded);
-    if (trace_ != nullptr && trace_->Active()) {
+    const FaultPlan::Death death = Faults().OnRequest(systemAbilityId_, code);
+    if (death == FaultPlan::Death::BEFORE_REPLY) {
+        auto operation = operations_.find(code);
+        decoded.operation = operation != operations_.end() ? operation->second.name : "";
+        decoded.notes.emplace_back("fault", "the process died in the middle of this request");
+        decoded.result = ERR_DEAD_OBJECT;
+    } else {
+        decoded.result = Dispatch(code, data, reply, decoded);
+    }
+    if (death == FaultPlan::Death::AFTER_REPLY) {
+        decoded.notes.emplace_back("fault", "the process died after this reply");
+    }
+    if (channels_.trace->Active()) {
         decoded.requestBytes = BytesOf(data);
         decoded.replyBytes = BytesOf(reply);
-        trace_->Emit(decoded);
+        channels_.trace->Emit(decoded);
+    }
+    if (death != FaultPlan::Death::NONE) {
+        Die();
     }
     return decoded.result;
+}
+
+nlohmann::ordered_json EmulatedServiceStub::Dump()
+{
+    nlohmann::ordered_json dump = DumpState();
+    nlohmann::ordered_json& requests = dump["requests"] = nlohmann::ordered_json::array();
+    std::lock_guard<std::mutex> lock(countsMutex_);
+    for (const auto& [code, count] : requestCounts_) {
+        auto operation = operations_.find(code);
+        requests.push_back({{"code", code},
+                            {"operation", operation != operations_.end() ? operation->second.name : "<unknown>"},
+                            {"count", count}});
+    }
+    return dump;
+}
+
+void EmulatedServiceStub::CutIfTruncationArmed(ReplyWriter& writer)
+{
+    if (Faults().Take(EmulatorFault::Kind::TRUNCATED_RECORD)) {
+        writer.CutLastBytes(TRUNCATED_BYTES);
+    }
+}
+
+void EmulatedServiceStub::Die()
+{
+    EMULATOR_LOGI("%{public}s: the process of %{public}d dies, as a fault asked", serviceName_.c_str(),
+                  systemAbilityId_);
+    SamgrHostControl::KillSystemAbility(systemAbilityId_);
 }
 
 int EmulatedServiceStub::Dispatch(uint32_t code, MessageParcel& data, MessageParcel& reply, DecodedRequest& decoded)
@@ -63,8 +114,8 @@ int EmulatedServiceStub::Dispatch(uint32_t code, MessageParcel& data, MessagePar
                       operation->second.name, Narrow(token).c_str());
         return ERR_INVALID_STATE;
     }
-    RequestReader reader(data, decoded.fields);
-    ReplyWriter writer(reply, decoded.replyFields);
+    RequestReader reader(data, decoded);
+    ReplyWriter writer(reply, decoded);
     operation->second.handle(reader, writer);
     if (reader.Failed()) {
         EMULATOR_LOGE("%{public}s: %{public}s refused, malformed request", serviceName_.c_str(),

@@ -1,6 +1,7 @@
 /*
  * The part that both emulated services share: the code table, the interface token check, the refusal of malformed
- * requests and the trace of every request with its reply.
+ * requests, the trace of every request with its reply, the count of requests by code, and the faults that a
+ * service plays (its process dying, hostile list replies).
  */
 #ifndef EMULATED_SERVICE_STUB_H
 #define EMULATED_SERVICE_STUB_H
@@ -8,8 +9,13 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <string>
+#include <vector>
 
+#include <nlohmann/json.hpp>
+
+#include "fault_plan.h"
 #include "ipc_object_stub.h"
 #include "message_option.h"
 #include "reply_writer.h"
@@ -19,11 +25,20 @@
 namespace OHOS {
 namespace Zelkon {
 
+// What every service instance of one installed emulator shares.
+struct ServiceChannels {
+    std::shared_ptr<TraceChannel> trace;
+    std::shared_ptr<FaultPlan> faults;
+};
+
 class EmulatedServiceStub : public IPCObjectStub {
 public:
-    EmulatedServiceStub(const std::u16string& token, std::string serviceName, std::shared_ptr<TraceChannel> trace);
+    EmulatedServiceStub(const std::u16string& token, std::string serviceName, int32_t systemAbilityId,
+                        ServiceChannels channels);
 
     int OnRemoteRequest(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option) override;
+    // The service's state, and its requests counted by code.
+    nlohmann::ordered_json Dump();
 
 protected:
     // Decodes the request's fields; changes state and writes the reply only once all of them were read.
@@ -37,18 +52,57 @@ protected:
                              }};
     }
 
+    virtual nlohmann::ordered_json DumpState() = 0;
+
+    // A count, then the records, each field named "<name>[index].<field>"; a hostile-count or truncated-record
+    // fault armed for the next list reply plays here.
+    template <typename Record>
+    void AnswerList(ReplyWriter& writer, const std::string& name, const std::vector<Record>& records,
+                    bool (*write)(ReplyWriter&, const Record&))
+    {
+        if (Faults().Take(EmulatorFault::Kind::HOSTILE_COUNT)) {
+            writer.Int32("count", HOSTILE_LIST_COUNT);
+            writer.Note("fault", "hostile count, no records");
+            return;
+        }
+        if (!writer.Int32("count", static_cast<int32_t>(records.size()))) {
+            return;
+        }
+        for (size_t i = 0; i < records.size(); ++i) {
+            writer.SetRecordPrefix(name + "[" + std::to_string(i) + "].");
+            if (!write(writer, records[i])) {
+                return;
+            }
+        }
+        writer.SetRecordPrefix("");
+        if (!records.empty()) {
+            CutIfTruncationArmed(writer);
+        }
+    }
+
+    // Plays an armed truncated-record fault on a reply whose last field belongs to a record.
+    void CutIfTruncationArmed(ReplyWriter& writer);
+    FaultPlan& Faults() { return *channels_.faults; }
+
 private:
+    // One above the bound that readers of a list reply keep.
+    static constexpr int32_t HOSTILE_LIST_COUNT = 1001;
+
     struct Operation {
         const char* name;
         Handler handle;
     };
 
     int Dispatch(uint32_t code, MessageParcel& data, MessageParcel& reply, DecodedRequest& decoded);
+    void Die();
 
     const std::u16string token_;
     const std::string serviceName_;
-    const std::shared_ptr<TraceChannel> trace_;
+    const int32_t systemAbilityId_;
+    const ServiceChannels channels_;
     std::map<uint32_t, Operation> operations_;
+    std::mutex countsMutex_;
+    std::map<uint32_t, uint64_t> requestCounts_;
 };
 
 } // namespace Zelkon

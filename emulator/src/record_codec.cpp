@@ -13,18 +13,22 @@ constexpr size_t MIN_FD_RECORD_BYTES = 24;
 constexpr size_t MIN_SEND_FILE_BYTES = 2 * MIN_STRING_BYTES + sizeof(int64_t);
 constexpr size_t MIN_SHARE_ITEM_BYTES = MIN_STRING_BYTES + MIN_FD_RECORD_BYTES;
 
+// A descriptor of a device or of a file that keeps growing would otherwise be read forever.
+constexpr uint64_t MAX_FILE_READ = 64 * 1024 * 1024;
+
 // pread leaves the offset that the sender shares with this descriptor where it was.
 uint64_t ReadToEnd(int fd)
 {
     char buffer[4096];
     uint64_t total = 0;
-    for (;;) {
+    while (total < MAX_FILE_READ) {
         const ssize_t count = pread(fd, buffer, sizeof(buffer), static_cast<off_t>(total));
         if (count <= 0) {
             return total;
         }
         total += static_cast<uint64_t>(count);
     }
+    return total;
 }
 
 bool ReadFile(RequestReader& reader, const char* field, TransferPayload& payload)
@@ -34,10 +38,16 @@ bool ReadFile(RequestReader& reader, const char* field, TransferPayload& payload
         return false;
     }
     const uint64_t size = ReadToEnd(fd.Get());
-    reader.Note(std::string(field) + ".readable", std::to_string(size) + " bytes");
+    reader.Note(std::string(field) + ".readable",
+                std::to_string(size) + (size < MAX_FILE_READ ? " bytes" : " bytes, and not read further"));
     ++payload.files;
     payload.bytes += size;
     return true;
+}
+
+std::string ListRecord(const char* list, uint32_t index)
+{
+    return std::string(list) + "[" + std::to_string(index) + "].";
 }
 } // namespace
 
@@ -110,12 +120,14 @@ bool ReadSendBean(RequestReader& reader, TransferPayload& payload)
         std::string uri;
         std::string name;
         int64_t size = 0;
-        if (!reader.String("file.uri", uri) || !reader.String("file.name", name) || !reader.Int64("file.size", size)) {
+        reader.SetRecordPrefix(ListRecord("sendBean.files", i));
+        if (!reader.String("uri", uri) || !reader.String("name", name) || !reader.Int64("size", size)) {
             return false;
         }
         ++payload.files;
         payload.bytes += static_cast<uint64_t>(size < 0 ? 0 : size);
     }
+    reader.SetRecordPrefix("");
     return true;
 }
 
@@ -154,10 +166,12 @@ bool ReadCommonShareObject(RequestReader& reader, std::string& networkId, Transf
     payload.bytes += content.size();
     for (uint32_t i = 0; i < count; ++i) {
         std::string uri;
-        if (!reader.String("item.uri", uri) || !ReadFile(reader, "item.fd", payload)) {
+        reader.SetRecordPrefix(ListRecord("share.items", i));
+        if (!reader.String("uri", uri) || !ReadFile(reader, "fd", payload)) {
             return false;
         }
     }
+    reader.SetRecordPrefix("");
     return true;
 }
 

@@ -13,7 +13,7 @@ bool ReplyWriter::Check(const char* field, bool written, const std::string& valu
         failed_ = true;
         return false;
     }
-    fields_.emplace_back(field, value);
+    decoded_.replyFields.emplace_back(prefix_ + field, value);
     return true;
 }
 
@@ -62,6 +62,19 @@ bool ReplyWriter::BigString(const char* field, const std::string& value)
 void ReplyWriter::MakeRoom(size_t bytes)
 {
     reply_.SetMaxCapacity(reply_.GetMaxCapacity() + bytes);
+}
+
+void ReplyWriter::CutLastBytes(size_t bytes)
+{
+    const size_t size = reply_.GetDataSize();
+    const size_t kept = size > bytes ? size - bytes : 0;
+    reply_.SetDataSize(kept);
+    Note("reply cut", std::to_string(size - kept) + " bytes dropped from its end");
+}
+
+void ReplyWriter::Note(const std::string& what, const std::string& value)
+{
+    decoded_.notes.emplace_back(what, value);
 }
 
 } // namespace Zelkon

@@ -16,7 +16,7 @@ namespace Zelkon {
 
 class ReplyWriter {
 public:
-    ReplyWriter(MessageParcel& reply, DecodedRequest::Fields& fields) : reply_(reply), fields_(fields) {}
+    ReplyWriter(MessageParcel& reply, DecodedRequest& decoded) : reply_(reply), decoded_(decoded) {}
 
     bool Int32(const char* field, int32_t value);
     bool Uint32(const char* field, uint32_t value);
@@ -28,6 +28,12 @@ public:
     bool BigString(const char* field, const std::string& value);
     // Lets a record as large as its texts fit: the parcel's limit only ever rises.
     void MakeRoom(size_t bytes);
+    // Drops the reply's last bytes, as a hostile service would.
+    void CutLastBytes(size_t bytes);
+    // Notes what the emulator did, apart from the wire's fields.
+    void Note(const std::string& what, const std::string& value);
+    // Names the fields that follow as those of a list's record ("users[0]."); empty ends the record.
+    void SetRecordPrefix(std::string prefix) { prefix_ = std::move(prefix); }
 
     bool Failed() const { return failed_; }
 
@@ -35,7 +41,8 @@ private:
     bool Check(const char* field, bool written, const std::string& value);
 
     MessageParcel& reply_;
-    DecodedRequest::Fields& fields_;
+    DecodedRequest& decoded_;
+    std::string prefix_;
     bool failed_ = false;
 };
 

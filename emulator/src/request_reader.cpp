@@ -12,15 +12,20 @@ bool RequestReader::Fail(const char* field, const char* what)
 {
     if (!failed_) {
         EMULATOR_LOGE("malformed request: %{public}s %{public}s", field, what);
-        fields_.emplace_back(field, std::string("<") + what + ">");
+        Decoded(field, std::string("<") + what + ">");
     }
     failed_ = true;
     return false;
 }
 
-void RequestReader::Note(const std::string& field, const std::string& value)
+void RequestReader::Note(const std::string& what, const std::string& value)
 {
-    fields_.emplace_back(field, value);
+    decoded_.notes.emplace_back(prefix_ + what, value);
+}
+
+void RequestReader::Decoded(const char* field, const std::string& value)
+{
+    decoded_.fields.emplace_back(prefix_ + field, value);
 }
 
 bool RequestReader::Int32(const char* field, int32_t& value)
@@ -28,7 +33,7 @@ bool RequestReader::Int32(const char* field, int32_t& value)
     if (failed_ || !data_.ReadInt32(value)) {
         return Fail(field, "truncated");
     }
-    Note(field, std::to_string(value));
+    Decoded(field, std::to_string(value));
     return true;
 }
 
@@ -37,7 +42,7 @@ bool RequestReader::Uint32(const char* field, uint32_t& value)
     if (failed_ || !data_.ReadUint32(value)) {
         return Fail(field, "truncated");
     }
-    Note(field, std::to_string(value));
+    Decoded(field, std::to_string(value));
     return true;
 }
 
@@ -46,7 +51,7 @@ bool RequestReader::Int64(const char* field, int64_t& value)
     if (failed_ || !data_.ReadInt64(value)) {
         return Fail(field, "truncated");
     }
-    Note(field, std::to_string(value));
+    Decoded(field, std::to_string(value));
     return true;
 }
 
@@ -55,7 +60,7 @@ bool RequestReader::Int8(const char* field, int8_t& value)
     if (failed_ || !data_.ReadInt8(value)) {
         return Fail(field, "truncated");
     }
-    Note(field, std::to_string(value));
+    Decoded(field, std::to_string(value));
     return true;
 }
 
@@ -64,7 +69,7 @@ bool RequestReader::Bool(const char* field, bool& value)
     if (failed_ || !data_.ReadBool(value)) {
         return Fail(field, "truncated");
     }
-    Note(field, value ? "true" : "false");
+    Decoded(field, value ? "true" : "false");
     return true;
 }
 
@@ -73,7 +78,7 @@ bool RequestReader::String(const char* field, std::string& value)
     if (failed_ || !data_.ReadString(value)) {
         return Fail(field, "truncated");
     }
-    Note(field, QuotedText(value));
+    Decoded(field, QuotedText(value));
     return true;
 }
 
@@ -86,7 +91,7 @@ bool RequestReader::RemoteObject(const char* field, sptr<IRemoteObject>& object)
     if (object == nullptr) {
         return Fail(field, "no remote object");
     }
-    Note(field, ObjectText(object));
+    Decoded(field, ObjectText(object));
     return true;
 }
 
@@ -99,7 +104,7 @@ bool RequestReader::FileDescriptor(const char* field, UniqueFd& fd)
     if (fd.Get() < 0) {
         return Fail(field, "no file descriptor");
     }
-    Note(field, "fd " + std::to_string(fd.Get()));
+    Decoded(field, "fd " + std::to_string(fd.Get()));
     return true;
 }
 
@@ -123,7 +128,7 @@ bool RequestReader::BigString(const char* field, std::string& value, uint32_t ma
         }
         value.assign(block, strnlen(block, size));
     }
-    Note(field, QuotedText(value));
+    Decoded(field, QuotedText(value));
     return true;
 }
 
@@ -136,7 +141,7 @@ bool RequestReader::Count(const char* field, uint32_t& count, size_t minRecordBy
         EMULATOR_LOGE("hostile count %{public}u of %{public}s", count, field);
         return Fail(field, "hostile count");
     }
-    Note(field, std::to_string(count));
+    Decoded(field, std::to_string(count));
     return true;
 }
 

@@ -17,7 +17,7 @@ namespace Zelkon {
 
 class RequestReader {
 public:
-    RequestReader(MessageParcel& data, DecodedRequest::Fields& fields) : data_(data), fields_(fields) {}
+    RequestReader(MessageParcel& data, DecodedRequest& decoded) : data_(data), decoded_(decoded) {}
 
     bool Int32(const char* field, int32_t& value);
     bool Uint32(const char* field, uint32_t& value);
@@ -32,16 +32,20 @@ public:
     // A uint32 count of records that each take at least minRecordBytes: a count that the remaining data cannot
     // hold, or above maxCount, is hostile.
     bool Count(const char* field, uint32_t& count, size_t minRecordBytes, uint32_t maxCount);
-    // Notes a value that the caller decoded itself.
-    void Note(const std::string& field, const std::string& value);
+    // Notes what the emulator found or did, apart from the wire's fields.
+    void Note(const std::string& what, const std::string& value);
+    // Names the fields that follow as those of a list's record ("sendBean.files[0]."); empty ends the record.
+    void SetRecordPrefix(std::string prefix) { prefix_ = std::move(prefix); }
 
     bool Failed() const { return failed_; }
 
 private:
     bool Fail(const char* field, const char* what);
+    void Decoded(const char* field, const std::string& value);
 
     MessageParcel& data_;
-    DecodedRequest::Fields& fields_;
+    DecodedRequest& decoded_;
+    std::string prefix_;
     bool failed_ = false;
 };
 

@@ -1,35 +1,69 @@
 #include "share_emulator.h"
 
 #include <memory>
+#include <mutex>
 
 #include "emulator_log.h"
 #include "iservice_registry.h"
 #include "samgr_host_control.h"
 #include "share_manager_stub.h"
 #include "share_service_stub.h"
-#include "trace_channel.h"
 
 namespace OHOS {
 namespace Zelkon {
 namespace {
-std::shared_ptr<TraceChannel> Trace()
+// The channels outlive every service instance, so that a trace or a fault set before a load reaches it.
+const ServiceChannels& Channels()
 {
-    static const auto trace = std::make_shared<TraceChannel>();
-    return trace;
+    static const ServiceChannels channels{std::make_shared<TraceChannel>(), std::make_shared<FaultPlan>()};
+    return channels;
+}
+
+// The services' current processes, held weakly: a killed process is gone, whoever killed it.
+struct RunningServices {
+    std::mutex mutex;
+    wptr<ShareServiceStub> shareService;
+    wptr<ShareManagerStub> shareManager;
+};
+
+RunningServices& Running()
+{
+    static RunningServices* running = new RunningServices();
+    return *running;
+}
+
+template <typename Stub>
+nlohmann::ordered_json DumpOf(const wptr<Stub>& service)
+{
+    sptr<Stub> running = service.promote();
+    nlohmann::ordered_json dump = {{"running", running != nullptr}};
+    if (running != nullptr) {
+        dump.update(running->Dump());
+    }
+    return dump;
 }
 } // namespace
 
-void ShareEmulator::Install()
+void ShareEmulator::Install(const EmulatedWorld& world)
 {
-    const std::shared_ptr<TraceChannel> trace = Trace();
-    SamgrHostControl::RegisterLoader(EMULATED_SHARE_SERVICE_ID, [trace]() -> sptr<IRemoteObject> {
-        EMULATOR_LOGI("share service %{public}d starting", EMULATED_SHARE_SERVICE_ID);
-        return new ShareServiceStub(trace);
-    });
+    Channels().faults->Clear();
+    SamgrHostControl::RegisterLoader(
+        EMULATED_SHARE_SERVICE_ID, [permanentDevices = world.permanentDevices]() -> sptr<IRemoteObject> {
+            EMULATOR_LOGI("share service %{public}d starting", EMULATED_SHARE_SERVICE_ID);
+            sptr<ShareServiceStub> service = new ShareServiceStub(Channels(), permanentDevices);
+            std::lock_guard<std::mutex> lock(Running().mutex);
+            Running().shareService = service;
+            return service;
+        });
     // A fresh share manager process; one left from an earlier install dies first.
     KillShareManagerService();
+    sptr<ShareManagerStub> shareManager = new ShareManagerStub(Channels(), world);
+    {
+        std::lock_guard<std::mutex> lock(Running().mutex);
+        Running().shareManager = shareManager;
+    }
     sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
-    if (manager == nullptr || manager->AddSystemAbility(EMULATED_SHARE_MANAGER_ID, new ShareManagerStub(trace)) != 0) {
+    if (manager == nullptr || manager->AddSystemAbility(EMULATED_SHARE_MANAGER_ID, shareManager) != 0) {
         EMULATOR_LOGE("share manager service %{public}d could not be added", EMULATED_SHARE_MANAGER_ID);
     }
 }
@@ -37,6 +71,7 @@ void ShareEmulator::Install()
 void ShareEmulator::Uninstall()
 {
     SamgrHostControl::RegisterLoader(EMULATED_SHARE_SERVICE_ID, []() -> sptr<IRemoteObject> { return nullptr; });
+    Channels().faults->Clear();
     KillShareService();
     KillShareManagerService();
 }
@@ -53,7 +88,37 @@ bool ShareEmulator::KillShareManagerService()
 
 void ShareEmulator::SetTraceSink(TraceSink sink)
 {
-    Trace()->SetSink(std::move(sink));
+    Channels().trace->SetSink(std::move(sink));
+}
+
+void ShareEmulator::InjectFault(const EmulatorFault& fault)
+{
+    switch (fault.kind) {
+    case EmulatorFault::Kind::LOAD_FAILS:
+        SamgrHostControl::ScriptLoads({LoadScript::Outcome::FAIL}, static_cast<int>(fault.value));
+        break;
+    case EmulatorFault::Kind::LOAD_DELAYED:
+        SamgrHostControl::ScriptLoads({LoadScript::Outcome::SUCCEED, std::chrono::milliseconds(fault.value)});
+        break;
+    default:
+        Channels().faults->Arm(fault);
+        break;
+    }
+}
+
+std::string ShareEmulator::DumpState()
+{
+    wptr<ShareServiceStub> shareService;
+    wptr<ShareManagerStub> shareManager;
+    {
+        std::lock_guard<std::mutex> lock(Running().mutex);
+        shareService = Running().shareService;
+        shareManager = Running().shareManager;
+    }
+    const nlohmann::ordered_json dump = {{"shareService", DumpOf(shareService)},
+                                         {"shareManager", DumpOf(shareManager)}};
+    constexpr int INDENT = 2;
+    return dump.dump(INDENT, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
 } // namespace Zelkon

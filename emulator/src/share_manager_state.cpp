@@ -2,72 +2,45 @@
 
 #include <algorithm>
 
+#include "emulated_record_fields.h"
+#include "json_field_writer.h"
+
 namespace OHOS {
 namespace Zelkon {
 namespace {
-constexpr int32_t PHONE_TYPE = 14;
-constexpr int32_t TABLET_TYPE = 17;
-constexpr int32_t PC_TYPE = 12;
+using CallbackKind = ShareManagerState::CallbackKind;
+
 constexpr int32_t STATE_SENDING = 1;
-// Large enough that the reply carries it in shared memory, as on a device.
-constexpr size_t PREVIEW_LINES = 1200;
 
-std::string MakePreviewData()
-{
-    std::string text;
-    for (size_t line = 1; line <= PREVIEW_LINES; ++line) {
-        text += "preview line " + std::to_string(line) + ": holiday-photos.zip\n";
-    }
-    return text;
-}
-
-UserEntry MakeUser(const std::string& name, const std::string& account, int32_t type, const std::string& id,
-                   int32_t nearbyVersion, const std::string& contactName)
-{
-    UserEntry user;
-    user.deviceName = name;
-    user.norvaneIdName = account;
-    user.avatar = "data:image/png;base64,iVBORw0KGgo" + std::string(512, 'A') + id;
-    user.colorId = static_cast<int32_t>(id.size() % 7);
-    user.deviceType = type;
-    user.deviceId = id;
-    user.nearbyVersion = nearbyVersion;
-    user.lastSharedTime = 1700000000000;
-    user.isSameAccount = account == "me@example.com";
-    user.contact = {1, contactName, "photo-of-" + contactName};
-    user.isOHDevice = true;
-    user.deviceFounder = 0x80000001u;
-    return user;
-}
+const std::vector<std::pair<const char*, CallbackKind>> CALLBACK_KINDS = {
+    {"widget", CallbackKind::WIDGET},
+    {"vxWidget", CallbackKind::VX_WIDGET},
+    {"senderAction", CallbackKind::SENDER_ACTION},
+    {"shareApi", CallbackKind::SHARE_API},
+};
 } // namespace
 
-ShareManagerState::ShareManagerState() :
-    users_{
-        MakeUser("Alex's phone", "alex@example.com", PHONE_TYPE, "dev-1001-phone", 9, "Alex"),
-        MakeUser("Sam's tablet", "sam@example.com", TABLET_TYPE, "dev-1002-tablet", 10, "Sam"),
-        MakeUser("My laptop", "me@example.com", PC_TYPE, "dev-1003-laptop", 12, "Me"),
-    },
-    previewData_(MakePreviewData()), account_{"acc-20001", "9f2c4e1ab7d35508", 1, 20010042, "Robin", "avatar-of-robin"}
+ShareManagerState::ShareManagerState(const EmulatedWorld& world) :
+    switch_(world.sharingSwitch), users_(world.users), previewData_(world.previewData), account_(world.account)
 {
 }
 
 void ShareManagerState::SetEnable(int32_t state, bool enable)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    enableState_ = state;
-    enabled_ = enable;
+    switch_ = {enable, state};
 }
 
 bool ShareManagerState::IsEnabled()
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    return enabled_;
+    return switch_.enabled;
 }
 
 int32_t ShareManagerState::EnableState()
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    return enableState_;
+    return switch_.state;
 }
 
 bool ShareManagerState::AddCallback(CallbackKind kind, const sptr<IRemoteObject>& callback)
@@ -138,7 +111,7 @@ bool ShareManagerState::IsKnownUser(const std::string& deviceId)
 bool ShareManagerState::Prepare(const std::string& deviceId)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    if (!enabled_ || FindUser(deviceId) == nullptr) {
+    if (!switch_.enabled || FindUser(deviceId) == nullptr) {
         return false;
     }
     prepared_.insert(deviceId);
@@ -148,7 +121,7 @@ bool ShareManagerState::Prepare(const std::string& deviceId)
 bool ShareManagerState::StartSending(const std::string& deviceId, const TransferPayload& payload)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    if (!enabled_ || prepared_.count(deviceId) == 0) {
+    if (!switch_.enabled || prepared_.count(deviceId) == 0) {
         return false;
     }
     sending_[deviceId] = payload;
@@ -202,6 +175,34 @@ void ShareManagerState::SetAccountPermission(int32_t permission)
     // The account's status is what the user allowed the share service to do with it.
     std::lock_guard<std::mutex> lock(mutex_);
     account_.status = permission;
+}
+
+nlohmann::ordered_json ShareManagerState::Dump()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    nlohmann::ordered_json dump;
+    dump["sharingSwitch"] = JsonFieldWriter::Write(switch_);
+    for (const auto& [name, kind] : CALLBACK_KINDS) {
+        dump["callbacks"][name] = callbacks_.Count(kind);
+    }
+    dump["discovering"] = discovering_;
+    dump["connected"] = connected_;
+    nlohmann::ordered_json& users = dump["users"] = nlohmann::ordered_json::array();
+    for (const UserEntry& user : users_) {
+        users.push_back(user.deviceId);
+    }
+    dump["prepared"] = prepared_;
+    nlohmann::ordered_json& sending = dump["sending"] = nlohmann::ordered_json::array();
+    for (const auto& [deviceId, payload] : sending_) {
+        nlohmann::ordered_json entry = {{"deviceId", deviceId}};
+        entry.update(JsonFieldWriter::Write(payload));
+        sending.push_back(entry);
+    }
+    dump["events"] = events_;
+    dump["shareEvents"] = shareEvents_;
+    dump["account"] = JsonFieldWriter::Write(account_);
+    dump["previewDataBytes"] = previewData_.size();
+    return dump;
 }
 
 } // namespace Zelkon

@@ -14,7 +14,10 @@
 #include <utility>
 #include <vector>
 
+#include <nlohmann/json.hpp>
+
 #include "emulated_records.h"
+#include "emulated_world.h"
 #include "iremote_object.h"
 #include "remote_registry.h"
 
@@ -25,7 +28,7 @@ class ShareManagerState {
 public:
     enum class CallbackKind { WIDGET, VX_WIDGET, SENDER_ACTION, SHARE_API };
 
-    ShareManagerState();
+    explicit ShareManagerState(const EmulatedWorld& world);
 
     void SetEnable(int32_t state, bool enable);
     bool IsEnabled();
@@ -57,12 +60,14 @@ public:
     AccountEntry Account();
     void SetAccountPermission(int32_t permission);
 
+    // Everything above, for a dump; users by their ids, the preview data by its size.
+    nlohmann::ordered_json Dump();
+
 private:
     const UserEntry* FindUser(const std::string& deviceId) const;
 
     std::mutex mutex_;
-    bool enabled_ = true;
-    int32_t enableState_ = 1;
+    SharingSwitch switch_;
     RemoteRegistry<CallbackKind> callbacks_;
     bool discovering_ = false;
     bool connected_ = false;

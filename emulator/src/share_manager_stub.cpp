@@ -37,15 +37,7 @@ template <bool SENDING_ONLY>
 void ShareManagerStub::OnUserList(RequestReader& reader, ReplyWriter& writer)
 {
     (void)reader;
-    const std::vector<UserEntry> users = SENDING_ONLY ? state_.SendingUsers() : state_.AllUsers();
-    if (!writer.Int32("count", static_cast<int32_t>(users.size()))) {
-        return;
-    }
-    for (const UserEntry& user : users) {
-        if (!WriteUserEntry(writer, user)) {
-            return;
-        }
-    }
+    AnswerList(writer, "users", SENDING_ONLY ? state_.SendingUsers() : state_.AllUsers(), WriteUserEntry);
 }
 
 template <bool ADD>
@@ -68,8 +60,9 @@ void ShareManagerStub::OnShareEventCallback(RequestReader& reader, ReplyWriter& 
     }
 }
 
-ShareManagerStub::ShareManagerStub(std::shared_ptr<TraceChannel> trace) :
-    EmulatedServiceStub(SHARE_MANAGER_TOKEN, "ShareManager", std::move(trace))
+ShareManagerStub::ShareManagerStub(ServiceChannels channels, const EmulatedWorld& world) :
+    EmulatedServiceStub(SHARE_MANAGER_TOKEN, "ShareManager", EMULATED_SHARE_MANAGER_ID, std::move(channels)),
+    state_(world)
 {
     Add(1, "SetShareEnable", &ShareManagerStub::OnSetShareEnable);
     Add(2, "SetShareEnableWithConfirm", &ShareManagerStub::OnSetShareEnableWithConfirm);
@@ -208,13 +201,20 @@ void ShareManagerStub::OnGetReceiverActionCallback(RequestReader& reader, ReplyW
 void ShareManagerStub::OnGetPreviewData(RequestReader& reader, ReplyWriter& writer)
 {
     (void)reader;
+    if (Faults().Take(EmulatorFault::Kind::OVERSIZED_BIG_STRING)) {
+        writer.Note("fault", "a big string above its limit");
+        writer.BigString("previewData", std::string(MAX_BIG_STRING_SIZE, 'x'));
+        return;
+    }
     writer.BigString("previewData", state_.PreviewData());
 }
 
 void ShareManagerStub::OnGetAccountInfo(RequestReader& reader, ReplyWriter& writer)
 {
     (void)reader;
-    WriteAccountEntry(writer, state_.Account());
+    if (WriteAccountEntry(writer, state_.Account())) {
+        CutIfTruncationArmed(writer);
+    }
 }
 
 void ShareManagerStub::OnSetShareAccountPermission(RequestReader& reader, ReplyWriter& writer)
@@ -241,6 +241,11 @@ void ShareManagerStub::OnPackageName(RequestReader& reader, ReplyWriter& writer)
     if (reader.String("packageName", packageName)) {
         writer.Bool("result", !packageName.empty());
     }
+}
+
+nlohmann::ordered_json ShareManagerStub::DumpState()
+{
+    return state_.Dump();
 }
 
 } // namespace Zelkon

@@ -5,8 +5,6 @@
 #ifndef SHARE_MANAGER_STUB_H
 #define SHARE_MANAGER_STUB_H
 
-#include <memory>
-
 #include "emulated_service_stub.h"
 #include "share_manager_state.h"
 
@@ -15,7 +13,7 @@ namespace Zelkon {
 
 class ShareManagerStub : public EmulatedServiceStub {
 public:
-    explicit ShareManagerStub(std::shared_ptr<TraceChannel> trace);
+    ShareManagerStub(ServiceChannels channels, const EmulatedWorld& world);
 
 private:
     using CallbackKind = ShareManagerState::CallbackKind;
@@ -50,6 +48,7 @@ private:
     void OnDeviceWithValue(RequestReader& reader, ReplyWriter& writer);
     // ApplyUriPermission and IsAppForeground: a package name, accepted when not empty.
     void OnPackageName(RequestReader& reader, ReplyWriter& writer);
+    nlohmann::ordered_json DumpState() override;
 
     ShareManagerState state_;
 };

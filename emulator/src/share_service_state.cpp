@@ -1,21 +1,25 @@
 #include "share_service_state.h"
 
 #include <algorithm>
+#include <utility>
+
+#include "emulated_record_fields.h"
+#include "json_field_writer.h"
 
 namespace OHOS {
 namespace Zelkon {
 namespace {
-constexpr int32_t PHONE_TYPE = 14;
-constexpr int32_t TABLET_TYPE = 17;
-constexpr int32_t PC_TYPE = 12;
+using ListenerKind = ShareServiceState::ListenerKind;
+
+const std::vector<std::pair<const char*, ListenerKind>> LISTENER_KINDS = {
+    {"publish", ListenerKind::PUBLISH}, {"subscribe", ListenerKind::SUBSCRIBE},
+    {"receive", ListenerKind::RECEIVE}, {"commonReceive", ListenerKind::COMMON_RECEIVE},
+    {"swing", ListenerKind::SWING},
+};
 } // namespace
 
-ShareServiceState::ShareServiceState() :
-    permanentDevices_{
-        {1, "Kitchen tablet", TABLET_TYPE, "perm-0001-tablet", 1700000000000},
-        {2, "Office laptop", PC_TYPE, "perm-0002-laptop", 1700000500000},
-        {3, "Alex's phone", PHONE_TYPE, "perm-0003-phone", 1700001000000},
-    }
+ShareServiceState::ShareServiceState(std::vector<PermanentEntry> permanentDevices) :
+    permanentDevices_(std::move(permanentDevices))
 {
 }
 
@@ -147,6 +151,27 @@ bool ShareServiceState::RemovePermanentDevice(int32_t id)
     }
     permanentDevices_.erase(it);
     return true;
+}
+
+nlohmann::ordered_json ShareServiceState::Dump()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    nlohmann::ordered_json dump;
+    for (const auto& [name, kind] : LISTENER_KINDS) {
+        dump["listeners"][name] = listeners_.Count(kind);
+    }
+    dump["foundDevices"] = JsonFieldWriter::Write(foundDevices_);
+    nlohmann::ordered_json& transfers = dump["transfers"] = nlohmann::ordered_json::array();
+    for (const auto& [id, transfer] : transfers_) {
+        nlohmann::ordered_json entry = {{"id", id}, {"deviceId", transfer.deviceId}};
+        entry.update(JsonFieldWriter::Write(transfer.payload));
+        transfers.push_back(entry);
+    }
+    dump["suspendedWifiScans"] = suspendedScans_;
+    dump["discoveryPolicy"] = discoveryPolicy_;
+    dump["accountPermission"] = accountPermission_;
+    dump["permanentDevices"] = JsonFieldWriter::Write(permanentDevices_);
+    return dump;
 }
 
 } // namespace Zelkon

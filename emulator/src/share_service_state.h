@@ -12,6 +12,8 @@
 #include <string>
 #include <vector>
 
+#include <nlohmann/json.hpp>
+
 #include "emulated_records.h"
 #include "iremote_object.h"
 #include "remote_registry.h"
@@ -23,7 +25,7 @@ class ShareServiceState {
 public:
     enum class ListenerKind { PUBLISH, SUBSCRIBE, RECEIVE, COMMON_RECEIVE, SWING };
 
-    ShareServiceState();
+    explicit ShareServiceState(std::vector<PermanentEntry> permanentDevices);
 
     // False when the listener was already there (add) or was not there (remove).
     bool AddListener(ListenerKind kind, const sptr<IRemoteObject>& listener);
@@ -50,6 +52,9 @@ public:
 
     std::vector<PermanentEntry> PermanentDevices();
     bool RemovePermanentDevice(int32_t id);
+
+    // Everything above, for a dump: listeners by kind, found devices, transfers, scans, settings, devices.
+    nlohmann::ordered_json Dump();
 
 private:
     struct Transfer {

@@ -45,8 +45,9 @@ void ShareServiceStub::OnWifiScanning(RequestReader& reader, ReplyWriter& writer
     }
 }
 
-ShareServiceStub::ShareServiceStub(std::shared_ptr<TraceChannel> trace) :
-    EmulatedServiceStub(SHARE_SERVICE_TOKEN, "ShareService", std::move(trace))
+ShareServiceStub::ShareServiceStub(ServiceChannels channels, std::vector<PermanentEntry> permanentDevices) :
+    EmulatedServiceStub(SHARE_SERVICE_TOKEN, "ShareService", EMULATED_SHARE_SERVICE_ID, std::move(channels)),
+    state_(std::move(permanentDevices))
 {
     Add(1, "PublishDevice", &ShareServiceStub::OnAddListener<ListenerKind::PUBLISH>);
     Add(2, "UnPublishDevice", &ShareServiceStub::OnRemoveListenerById<ListenerKind::PUBLISH>);
@@ -220,15 +221,7 @@ void ShareServiceStub::OnApplyUriPermission(RequestReader& reader, ReplyWriter& 
 void ShareServiceStub::OnGetPermanentDeviceList(RequestReader& reader, ReplyWriter& writer)
 {
     (void)reader;
-    const std::vector<PermanentEntry> devices = state_.PermanentDevices();
-    if (!writer.Int32("count", static_cast<int32_t>(devices.size()))) {
-        return;
-    }
-    for (const PermanentEntry& device : devices) {
-        if (!WritePermanentEntry(writer, device)) {
-            return;
-        }
-    }
+    AnswerList(writer, "devices", state_.PermanentDevices(), WritePermanentEntry);
 }
 
 void ShareServiceStub::OnRemovePermanentDeviceById(RequestReader& reader, ReplyWriter& writer)
@@ -237,6 +230,11 @@ void ShareServiceStub::OnRemovePermanentDeviceById(RequestReader& reader, ReplyW
     if (reader.Int32("id", id)) {
         writer.Bool("result", state_.RemovePermanentDevice(id));
     }
+}
+
+nlohmann::ordered_json ShareServiceStub::DumpState()
+{
+    return state_.Dump();
 }
 
 } // namespace Zelkon

@@ -5,7 +5,7 @@
 #ifndef SHARE_SERVICE_STUB_H
 #define SHARE_SERVICE_STUB_H
 
-#include <memory>
+#include <vector>
 
 #include "emulated_service_stub.h"
 #include "share_service_state.h"
@@ -15,7 +15,7 @@ namespace Zelkon {
 
 class ShareServiceStub : public EmulatedServiceStub {
 public:
-    explicit ShareServiceStub(std::shared_ptr<TraceChannel> trace);
+    ShareServiceStub(ServiceChannels channels, std::vector<PermanentEntry> permanentDevices);
 
 private:
     using ListenerKind = ShareServiceState::ListenerKind;
@@ -47,6 +47,7 @@ private:
     // deviceId, timeout, callback, package name and event type, as the two file transfers carry them.
     bool ReadSendParams(RequestReader& reader, std::string& deviceId);
     void AnswerSender(ReplyWriter& writer, const std::string& deviceId, const TransferPayload& payload);
+    nlohmann::ordered_json DumpState() override;
 
     ShareServiceState state_;
 };

@@ -26,7 +26,8 @@ public:
     bool RemoveDeathRecipient(const sptr<DeathRecipient>& recipient) override;
     int Dump(int fd, const std::vector<std::u16string>& args) override;
 
-    // The process of the target died: later requests fail with ERR_DEAD_OBJECT and the recipients are told.
+    // The process of the target died: later requests fail with ERR_DEAD_OBJECT and the recipients are told on an
+    // IPC thread. Returns once they have been told, unless called on an IPC thread (it would wait for itself).
     void Kill();
     void RefuseDeathRecipients(bool refuse);
 

@@ -39,8 +39,9 @@ public:
     static void SetManagerUnavailable(bool unavailable);
     // Applies to the remote objects of every ability, present and future.
     static void SetDeathRecipientsRefused(bool refused);
-    // The process of the ability dies: its remote object answers ERR_DEAD_OBJECT, its recipients are told, and
-    // the id is absent until it is added or loaded again. False if it was not running.
+    // The process of the ability dies: its remote object answers ERR_DEAD_OBJECT, its recipients are told (before
+    // this returns, unless called on an IPC thread), and the id is absent until it is added or loaded again. False
+    // if it was not running.
     static bool KillSystemAbility(int32_t systemAbilityId);
     // CheckSystemAbility and GetSystemAbility calls for the id.
     static int LookupCount(int32_t systemAbilityId);

@@ -2,9 +2,11 @@
 
 #include <iostream>
 #include <map>
-#include <sstream>
+
+#include <CLI/CLI.hpp>
 
 #include "commands.h"
+#include "usage_error.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -12,90 +14,101 @@ namespace {
 const std::map<std::string, LogLevel> LOG_LEVELS{
     {"debug", LOG_DEBUG}, {"info", LOG_INFO}, {"warn", LOG_WARN}, {"error", LOG_ERROR}};
 
-bool Refuse(const std::string& reason)
+std::string Footer()
 {
-    std::cerr << "sharectl: " << reason << "\nTry 'sharectl --help'." << std::endl;
-    return false;
+    return std::string("\nFaults (--fault FAULT, repeatable; each plays once):\n") + EmulatorFault::GRAMMAR +
+           "\nExit status: 0 when the command did what it should (every step passed, the call was made), 1 when a\n"
+           "step failed or the output could not be written, 2 for a usage error (nothing was run).\n"
+           "\nExamples:\n"
+           "  sharectl list\n"
+           "  sharectl describe manager.Cancel\n"
+           "  sharectl call RemovePermanentDeviceById id=2\n"
+           "  sharectl call PrepareSend deviceInfo='{\"deviceId\":\"dev-1001-phone\"}'\n"
+           "  sharectl --fault die-in:26 call GetPermanentDeviceList\n"
+           "  sharectl world > world.json && sharectl --world world.json users\n";
 }
 
-bool ParseLogLevel(const std::string& name, CommandLine& line)
+// Only one command runs, so the canned commands' arguments share one string.
+void AddCannedCommands(CLI::App& app, std::string& argument)
 {
-    auto level = LOG_LEVELS.find(name);
-    if (level == LOG_LEVELS.end()) {
-        return Refuse("unknown log level '" + name + "'");
+    for (const Command& command : Commands()) {
+        CLI::App* sub = app.add_subcommand(command.name, command.description);
+        if (command.argumentName != nullptr) {
+            sub->add_option(command.argumentName, argument, command.description)->type_name("");
+        }
     }
-    line.logLevel = level->second;
-    return true;
+}
+
+void AddToolCommands(CLI::App& app, CommandLine& line)
+{
+    app.add_subcommand(LIST_COMMAND, "list every operation of both services: service, request code, name");
+    app.add_subcommand(DESCRIBE_COMMAND, "an operation's arguments with their types, its request and reply")
+        ->add_option("OPERATION", line.operation, "as list names it")
+        ->required();
+    CLI::App* call = app.add_subcommand(CALL_COMMAND, "call an operation through the library and decode its result");
+    call->add_option("OPERATION", line.operation, "as list names it")->required();
+    call->add_option("ARGUMENTS", line.callArguments,
+                     "NAME=VALUE, named as describe shows them; records as JSON; left out: 0, false, empty");
+    app.add_subcommand(WORLD_COMMAND, "print the emulator's world as JSON: the built-in one, or --world's");
+    app.add_subcommand(DUMP_COMMAND, "print each emulated service's state as JSON");
 }
 } // namespace
 
 std::optional<CommandLine> ParseCommandLine(int argc, char* argv[])
 {
     CommandLine line;
-    bool commandGiven = false;
-    for (int i = 1; i < argc; ++i) {
-        const std::string argument = argv[i];
-        const std::string levelPrefix = "--log-level=";
-        if (argument == "--help" || argument == "-h") {
-            line.help = true;
-        } else if (argument == "--trace") {
-            line.trace = true;
-        } else if (argument == "--log-level") {
-            if (i + 1 == argc) {
-                Refuse("--log-level needs a level");
-                return std::nullopt;
-            }
-            if (!ParseLogLevel(argv[++i], line)) {
-                return std::nullopt;
-            }
-        } else if (argument.rfind(levelPrefix, 0) == 0) {
-            if (!ParseLogLevel(argument.substr(levelPrefix.size()), line)) {
-                return std::nullopt;
-            }
-        } else if (argument.rfind("--", 0) == 0) {
-            Refuse("unknown option '" + argument + "'");
-            return std::nullopt;
-        } else if (!commandGiven) {
-            line.command = argument;
-            commandGiven = true;
-        } else {
-            line.arguments.push_back(argument);
+    CLI::App app("Drives the share client library against emulated share services: a whole sharing session by\n"
+                 "default, a short canned command, or any of the 62 operations of both services with chosen\n"
+                 "arguments. The share service is loaded on demand, as on a device; the share manager service runs.",
+                 "sharectl");
+    app.footer(Footer());
+    app.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    // Options may come after the command too.
+    app.fallthrough();
+    app.require_subcommand(0, 1);
+    std::string logLevel = "warn";
+    std::vector<std::string> faults;
+    std::string cannedArgument;
+    app.add_flag("--trace", line.trace, "print every request and reply as decoded fields beside their bytes");
+    app.add_flag("--json", line.json, "print the result as one JSON document, for scripts");
+    app.add_flag("--dump", line.dump, "print each emulated service's state after the command");
+    app.add_option("--log-level", logLevel, "log lines shown on stderr: debug (all), info, warn (the default), error")
+        ->check(CLI::IsMember({"debug", "info", "warn", "error"}))
+        ->type_name("LEVEL");
+    app.add_option("--world", line.worldFile, "start the emulator from this world file (the schema of 'world')")
+        ->type_name("FILE");
+    app.add_option("--fault", faults, "inject a fault (see below); repeatable")
+        ->allow_extra_args(false)
+        ->type_name("FAULT");
+    AddCannedCommands(app, cannedArgument);
+    AddToolCommands(app, line);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        std::cout << app.help();
+        return std::nullopt;
+    } catch (const CLI::ParseError& error) {
+        throw UsageError(error.what());
+    }
+    if (!app.get_subcommands().empty()) {
+        const CLI::App* command = app.get_subcommands().front();
+        line.command = command->get_name();
+        const Command* canned = FindCommand(line.command);
+        if (canned != nullptr && canned->argumentName != nullptr &&
+            command->get_option(canned->argumentName)->count() > 0) {
+            line.argument = cannedArgument;
         }
     }
-    if (line.help) {
-        return line;
-    }
-    const Command* command = FindCommand(line.command);
-    if (command == nullptr) {
-        Refuse("unknown command '" + line.command + "'");
-        return std::nullopt;
-    }
-    if (line.arguments.size() > command->maxArguments) {
-        Refuse("too many arguments for '" + line.command + "'");
-        return std::nullopt;
+    line.logLevel = LOG_LEVELS.at(logLevel);
+    for (const std::string& text : faults) {
+        std::string error;
+        const std::optional<EmulatorFault> fault = EmulatorFault::Parse(text, error);
+        if (!fault) {
+            throw UsageError("--fault: " + error);
+        }
+        line.faults.push_back(*fault);
     }
     return line;
-}
-
-std::string UsageText()
-{
-    std::ostringstream text;
-    text << "Usage: sharectl [OPTIONS] [COMMAND [ARGUMENTS]]\n\n"
-         << "Drives the share client library against emulated share services, one line per step with its result.\n"
-         << "The share service is loaded on demand, as on a device; the share manager service is running.\n"
-         << "The exit status is 0 when every step gave the expected result, 1 otherwise, 2 for a usage error.\n\n"
-         << "Commands:\n";
-    for (const Command& command : Commands()) {
-        const std::string name = std::string(command.name) +
-                                 (command.argumentUsage[0] != '\0' ? std::string(" ") + command.argumentUsage : "");
-        text << "  " << name << std::string(name.size() < 22 ? 22 - name.size() : 1, ' ') << command.description
-             << '\n';
-    }
-    text << "\nOptions:\n"
-         << "  --trace               print every request and reply as decoded fields beside their bytes\n"
-         << "  --log-level LEVEL     system log lines shown on stderr: debug, info, warn (default) or error\n"
-         << "  --help                show this text\n";
-    return text.str();
 }
 
 } // namespace Zelkon

@@ -8,22 +8,37 @@
 #include <string>
 #include <vector>
 
+#include "emulator_fault.h"
 #include "hilog/log_c.h"
 
 namespace OHOS {
 namespace Zelkon {
 
+// The commands beside the canned ones.
+inline constexpr const char* LIST_COMMAND = "list";
+inline constexpr const char* DESCRIBE_COMMAND = "describe";
+inline constexpr const char* CALL_COMMAND = "call";
+inline constexpr const char* WORLD_COMMAND = "world";
+inline constexpr const char* DUMP_COMMAND = "dump";
+
 struct CommandLine {
     std::string command = "session";
-    std::vector<std::string> arguments;
+    // A canned command's optional argument.
+    std::optional<std::string> argument;
+    // describe and call.
+    std::string operation;
+    // call: NAME=VALUE.
+    std::vector<std::string> callArguments;
+    std::string worldFile;
+    std::vector<EmulatorFault> faults;
     bool trace = false;
-    bool help = false;
+    bool json = false;
+    bool dump = false;
     LogLevel logLevel = LOG_WARN;
 };
 
-// Empty after printing the reason to stderr when the arguments make no sense.
+// Throws UsageError; empty after printing the help that was asked for.
 std::optional<CommandLine> ParseCommandLine(int argc, char* argv[]);
-std::string UsageText();
 
 } // namespace Zelkon
 } // namespace OHOS

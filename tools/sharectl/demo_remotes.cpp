@@ -27,24 +27,5 @@ int32_t QueryHandle(const sptr<IRemoteObject>& object, const std::u16string& tok
     return reply.ReadInt32(handle) ? handle : -1;
 }
 
-void DiedWaiter::OnShareSaDied()
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    ++deaths_;
-    died_.notify_all();
-}
-
-bool DiedWaiter::WaitForDeaths(int count, std::chrono::milliseconds timeout)
-{
-    std::unique_lock<std::mutex> lock(mutex_);
-    return died_.wait_for(lock, timeout, [this, count] { return deaths_ >= count; });
-}
-
-int DiedWaiter::Deaths()
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    return deaths_;
-}
-
 } // namespace Zelkon
 } // namespace OHOS

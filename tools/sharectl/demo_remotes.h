@@ -1,15 +1,13 @@
 /*
  * The application's side of the exchange: its listeners and callbacks (local objects whose remote objects travel
- * in the requests), typed proxies for the sender and receiver objects that the services hand back, and a waiter
- * for the share service's death notice.
+ * in the requests), typed proxies for the sender and receiver objects that the services hand back, and a counter
+ * of the share service's death notices.
  */
 #ifndef DEMO_REMOTES_H
 #define DEMO_REMOTES_H
 
-#include <chrono>
-#include <condition_variable>
+#include <atomic>
 #include <cstdint>
-#include <mutex>
 
 #include "iremote_proxy.h"
 #include "iremote_stub.h"
@@ -21,6 +19,19 @@ namespace Zelkon {
 
 template <typename Interface>
 class DemoRemote : public IRemoteStub<Interface> {
+};
+
+// One listener or callback per interface that the operations of both services take; the same object for every
+// operation of one run, so that an unregistration names what the registration registered.
+struct LocalRemotes {
+    sptr<DemoRemote<IPublishListener>> publishListener = new DemoRemote<IPublishListener>();
+    sptr<DemoRemote<ISubscribeListener>> subscribeListener = new DemoRemote<ISubscribeListener>();
+    sptr<DemoRemote<ZelkonReceiveListener>> receiveListener = new DemoRemote<ZelkonReceiveListener>();
+    sptr<DemoRemote<ICommonReceiveListener>> commonReceiveListener = new DemoRemote<ICommonReceiveListener>();
+    sptr<DemoRemote<ITransmitCallback>> transmitCallback = new DemoRemote<ITransmitCallback>();
+    sptr<DemoRemote<ZelkonWidgetServiceCallback>> widgetCallback = new DemoRemote<ZelkonWidgetServiceCallback>();
+    sptr<DemoRemote<ISenderActionCallback>> senderActionCallback = new DemoRemote<ISenderActionCallback>();
+    sptr<DemoRemote<ZelkonApiCallback>> apiCallback = new DemoRemote<ZelkonApiCallback>();
 };
 
 // Asks the object behind a sender or receiver for its handle number; -1 when it does not answer.
@@ -38,17 +49,14 @@ public:
     int32_t ReceiverId() { return QueryHandle(Remote(), GetDescriptor()); }
 };
 
-class DiedWaiter : public ShareSaDiedCallback {
+// Counts the share service's death notices.
+class DeathCounter : public ShareSaDiedCallback {
 public:
-    void OnShareSaDied() override;
-    // True once `count` death notices have arrived.
-    bool WaitForDeaths(int count, std::chrono::milliseconds timeout);
-    int Deaths();
+    void OnShareSaDied() override { ++deaths_; }
+    int Deaths() const { return deaths_; }
 
 private:
-    std::mutex mutex_;
-    std::condition_variable died_;
-    int deaths_ = 0;
+    std::atomic<int> deaths_{0};
 };
 
 } // namespace Zelkon

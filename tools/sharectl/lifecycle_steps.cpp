@@ -1,5 +1,4 @@
-#include <chrono>
-
+#include "call_outcomes.h"
 #include "samgr_host_control.h"
 #include "session.h"
 #include "share_client.h"
@@ -7,15 +6,13 @@
 
 namespace OHOS {
 namespace Zelkon {
-namespace {
-constexpr std::chrono::seconds DEATH_NOTICE_WAIT{5};
-} // namespace
 
 StepResult KillShareService(Session& session)
 {
-    const int deaths = session.diedWaiter->Deaths();
+    const int deaths = session.deathCounter->Deaths();
     const bool killed = ShareEmulator::KillShareService();
-    const bool noticed = session.diedWaiter->WaitForDeaths(deaths + 1, DEATH_NOTICE_WAIT);
+    // The kill returns once its death notices have run: the count is final.
+    const bool noticed = session.deathCounter->Deaths() == deaths + 1;
     return {killed && noticed, std::string(killed ? "killed" : "was not running") +
                                    (noticed ? ", OnShareSaDied called" : ", no death notice")};
 }
@@ -23,10 +20,10 @@ StepResult KillShareService(Session& session)
 StepResult ReloadOnNextCall(Session& session)
 {
     const int loads = SamgrHostControl::LoadCount(EMULATED_SHARE_SERVICE_ID);
-    const int32_t result = ShareClient::GetInstance().Publish(session.publishListener);
+    const int32_t result = ShareClient::GetInstance().Publish(session.remotes.publishListener);
     const int reloads = SamgrHostControl::LoadCount(EMULATED_SHARE_SERVICE_ID) - loads;
     return {result == 1 && reloads == 1,
-            "Publish -> " + std::to_string(result) + " after " + std::to_string(reloads) + " new load request(s)"};
+            "Publish -> " + Accepted(result).Text() + " after " + std::to_string(reloads) + " new load request(s)"};
 }
 
 } // namespace Zelkon

@@ -1,37 +1,157 @@
 /*
- * sharectl: runs the share client library against the emulated share services, a whole session or single
- * operations, and tells step by step what happened.
+ * sharectl: runs the share client library against the emulated share services, a whole session, a canned command
+ * or any single operation, and tells what happened.
  */
+#include <cerrno>
+#include <cstring>
+#include <fstream>
 #include <iostream>
+#include <vector>
 
+#include "call_arguments.h"
+#include "catalog_printer.h"
 #include "command_line.h"
 #include "commands.h"
 #include "hilog/log_capture.h"
 #include "share_emulator.h"
 #include "step_runner.h"
+#include "trace_printer.h"
+#include "usage_error.h"
 
 namespace {
-constexpr int EXIT_STEPS_FAILED = 1;
+using namespace OHOS::Zelkon;
+
+constexpr int EXIT_FAILED = 1;
 constexpr int EXIT_USAGE = 2;
+// A world is a few records and a preview text; more is a mistake, such as a device given as the file.
+constexpr size_t MAX_WORLD_FILE = 64 * 1024 * 1024;
+constexpr size_t WORLD_READ_CHUNK = 64 * 1024;
+
+EmulatedWorld LoadWorld(const std::string& path)
+{
+    if (path.empty()) {
+        return EmulatedWorld::BuiltIn();
+    }
+    std::ifstream file(path, std::ios::binary);
+    if (!file) {
+        throw UsageError("--world " + path + ": cannot be read: " + std::strerror(errno));
+    }
+    std::string text;
+    std::vector<char> chunk(WORLD_READ_CHUNK);
+    while (file.read(chunk.data(), static_cast<std::streamsize>(chunk.size())) || file.gcount() > 0) {
+        text.append(chunk.data(), static_cast<size_t>(file.gcount()));
+        if (text.size() > MAX_WORLD_FILE) {
+            throw UsageError("--world " + path + ": larger than " + std::to_string(MAX_WORLD_FILE) + " bytes");
+        }
+    }
+    if (file.bad()) {
+        throw UsageError("--world " + path + ": cannot be read: " + std::strerror(errno));
+    }
+    std::string error;
+    std::optional<EmulatedWorld> world = EmulatedWorld::FromJson(text, error);
+    if (!world) {
+        throw UsageError("--world " + path + ": " + error);
+    }
+    return *world;
+}
+
+// Everything the command line asks for, checked before anything runs.
+struct Invocation {
+    CommandLine line;
+    EmulatedWorld world;
+    const Command* canned = nullptr;
+    const Operation* operation = nullptr;
+    std::optional<CallArguments> arguments;
+};
+
+Invocation Prepare(const CommandLine& line, Session& session)
+{
+    Invocation invocation{line, LoadWorld(line.worldFile), FindCommand(line.command), nullptr, std::nullopt};
+    if (invocation.canned != nullptr && line.argument.has_value()) {
+        invocation.canned->prepare(*line.argument, session);
+    }
+    if (line.command == DESCRIBE_COMMAND || line.command == CALL_COMMAND) {
+        invocation.operation = &FindOperation(line.operation);
+    }
+    if (line.command == CALL_COMMAND) {
+        invocation.arguments.emplace(*invocation.operation, line.callArguments);
+    }
+    return invocation;
+}
+
+void ShowJsonText(const std::string& text, Output& out)
+{
+    out.Line(text);
+    out.Document() = nlohmann::ordered_json::parse(text);
+}
+
+// The exit status of the command.
+int Run(const Invocation& invocation, Session& session, Output& out)
+{
+    const std::string& command = invocation.line.command;
+    if (invocation.canned != nullptr) {
+        return RunSteps(session, invocation.canned->steps, out) ? 0 : EXIT_FAILED;
+    }
+    if (command == LIST_COMMAND) {
+        PrintOperationList(out);
+    } else if (command == DESCRIBE_COMMAND) {
+        PrintOperationDescription(*invocation.operation, out);
+    } else if (command == CALL_COMMAND) {
+        PrintCallOutcome(*invocation.operation, invocation.operation->call(*invocation.arguments, session.remotes),
+                         out);
+    } else if (command == WORLD_COMMAND) {
+        ShowJsonText(invocation.world.ToJson(), out);
+    } else if (command == DUMP_COMMAND) {
+        ShowJsonText(ShareEmulator::DumpState(), out);
+    }
+    return 0;
+}
+
+void AddTraceAndState(const CommandLine& line, Session& session, Output& out)
+{
+    if (line.trace && out.IsJson()) {
+        nlohmann::ordered_json& trace = out.Document()["trace"] = nlohmann::ordered_json::array();
+        for (const DecodedRequest& request : session.requests.Since(0)) {
+            trace.push_back(TraceJson(request));
+        }
+    }
+    if (line.dump) {
+        const std::string state = ShareEmulator::DumpState();
+        out.Line("emulator state:");
+        out.Line(state);
+        out.Document()["emulatorState"] = nlohmann::ordered_json::parse(state);
+    }
+}
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    using namespace OHOS::Zelkon;
-    const std::optional<CommandLine> line = ParseCommandLine(argc, argv);
-    if (!line) {
+    std::optional<CommandLine> line;
+    std::optional<Invocation> invocation;
+    std::unique_ptr<Session> session;
+    try {
+        line = ParseCommandLine(argc, argv);
+        if (!line) {
+            return 0;
+        }
+        session = std::make_unique<Session>(line->trace && !line->json);
+        invocation.emplace(Prepare(*line, *session));
+    } catch (const UsageError& error) {
+        std::cerr << "sharectl: " << error.what() << "\nTry 'sharectl --help'." << std::endl;
         return EXIT_USAGE;
     }
-    if (line->help) {
-        std::cout << UsageText();
-        return 0;
-    }
     OHOS::HiviewDFX::HiLogSetThreshold(line->logLevel);
-    Session session(line->trace);
-    session.arguments = line->arguments;
-    ShareEmulator::SetTraceSink([&session](const DecodedRequest& request) { session.requests.Record(request); });
-    ShareEmulator::Install();
-    const bool passed = RunSteps(session, FindCommand(line->command)->steps, std::cout);
+    Output out(line->json);
+    ShareEmulator::SetTraceSink([&session](const DecodedRequest& request) { session->requests.Record(request); });
+    ShareEmulator::Install(invocation->world);
+    for (const EmulatorFault& fault : line->faults) {
+        ShareEmulator::InjectFault(fault);
+    }
+    int status = Run(*invocation, *session, out);
+    AddTraceAndState(*line, *session, out);
     ShareEmulator::SetTraceSink(nullptr);
-    return passed ? 0 : EXIT_STEPS_FAILED;
+    if (!out.Finish()) {
+        status = EXIT_FAILED;
+    }
+    return status;
 }

@@ -42,7 +42,7 @@ std::optional<DecodedRequest> RequestLog::LastOf(size_t mark, const std::string&
 
 std::optional<std::string> RequestLog::Field(const DecodedRequest& request, const std::string& name)
 {
-    for (const auto* fields : {&request.fields, &request.replyFields}) {
+    for (const auto* fields : {&request.fields, &request.replyFields, &request.notes}) {
         for (const auto& [field, value] : *fields) {
             if (field == name) {
                 return value;

@@ -26,7 +26,7 @@ public:
     std::vector<DecodedRequest> Since(size_t mark);
     // The last request of that operation since the mark.
     std::optional<DecodedRequest> LastOf(size_t mark, const std::string& operation);
-    // The value of the first field of that name, among the request's or else the reply's fields.
+    // The value of the first field of that name, among the request's, the reply's, then the emulator's notes.
     static std::optional<std::string> Field(const DecodedRequest& request, const std::string& name);
 
 private:

@@ -7,9 +7,9 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "demo_remotes.h"
+#include "file_to_send.h"
 #include "request_log.h"
 
 namespace OHOS {
@@ -19,11 +19,11 @@ struct Session {
     explicit Session(bool trace) : requests(trace) {}
 
     RequestLog requests;
-    std::vector<std::string> arguments;
-    sptr<DemoRemote<IPublishListener>> publishListener = new DemoRemote<IPublishListener>();
-    sptr<DemoRemote<ISubscribeListener>> subscribeListener = new DemoRemote<ISubscribeListener>();
-    sptr<DemoRemote<ITransmitCallback>> transmitCallback = new DemoRemote<ITransmitCallback>();
-    std::shared_ptr<DiedWaiter> diedWaiter = std::make_shared<DiedWaiter>();
+    LocalRemotes remotes;
+    std::shared_ptr<DeathCounter> deathCounter = std::make_shared<DeathCounter>();
+    // What the send-file step sends; without one it makes a temporary file of demo content.
+    std::unique_ptr<FileToSend> file;
+    int32_t removedDeviceId = 2;
 };
 
 struct StepResult {

@@ -36,7 +36,7 @@ StepResult SwitchSharing(Session& session)
     return {set && enabled && state == ENABLED_STATE && !unconfirmed && stillEnabled,
             std::string("SetShareEnable -> ") + (set ? "true" : "false") + ", IsEnabled -> " +
                 (enabled ? "true" : "false") + ", GetEnableState -> " + std::to_string(state) +
-                ", unconfirmed switch-off -> " + (unconfirmed ? "true" : "false")};
+                " (the state given to SetShareEnable), unconfirmed switch-off -> " + (unconfirmed ? "true" : "false")};
 }
 
 StepResult ListUsers(Session& session)

@@ -1,12 +1,8 @@
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
+#include "call_outcomes.h"
 #include "samgr_host_control.h"
 #include "session.h"
 #include "share_client.h"
 #include "share_emulator.h"
-#include "temp_file.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -15,9 +11,7 @@ constexpr const char* PACKAGE_NAME = "com.example.sharectl";
 constexpr const char* PHONE_ID = "dev-1001-phone";
 constexpr const char* TABLET_ID = "dev-1002-tablet";
 constexpr int32_t TRANSFER_TIMEOUT = 30;
-constexpr size_t DEMO_FILE_SIZE = 100000;
 constexpr size_t COMMON_SHARE_SIZE = 3 * 1024 * 1024;
-constexpr int32_t REMOVED_DEVICE_ID = 2;
 
 ShareClient& Client()
 {
@@ -29,7 +23,7 @@ TransmitParam ParamFor(Session& session, const std::string& deviceId)
     TransmitParam param;
     param.deviceId = deviceId;
     param.timeout = TRANSFER_TIMEOUT;
-    param.transCallback = session.transmitCallback;
+    param.transCallback = session.remotes.transmitCallback;
     return param;
 }
 
@@ -70,7 +64,7 @@ std::string DeviceNames(const std::vector<PermanentDeviceInfo>& devices)
 
 StepResult LoadShareService(Session& session)
 {
-    Client().RegisterDiedCallback(session.diedWaiter);
+    Client().RegisterDiedCallback(session.deathCounter);
     const int32_t connected = Client().Connect();
     const int loads = SamgrHostControl::LoadCount(EMULATED_SHARE_SERVICE_ID);
     return {connected == 0 && loads >= 1,
@@ -79,24 +73,24 @@ StepResult LoadShareService(Session& session)
 
 StepResult PublishDevice(Session& session)
 {
-    const int32_t result = Client().Publish(session.publishListener);
+    const int32_t result = Client().Publish(session.remotes.publishListener);
     std::string publishInfo;
     const int32_t infoResult = Client().GetPontalPublishInfo(publishInfo);
     return {result == 1 && infoResult == 1 && publishInfo.find("\"publishers\":1") != std::string::npos,
-            "Publish -> " + std::to_string(result) + ", publish info " + publishInfo};
+            "Publish -> " + Accepted(result).Text() + ", publish info " + publishInfo};
 }
 
 StepResult SubscribeDevice(Session& session)
 {
-    const int32_t result = Client().Subscribe(session.subscribeListener);
-    return {result == 1, "Subscribe -> " + std::to_string(result)};
+    const int32_t result = Client().Subscribe(session.remotes.subscribeListener);
+    return {result == 1, "Subscribe -> " + Accepted(result).Text()};
 }
 
 StepResult SkipLegacyDevice(Session& session)
 {
     const size_t mark = session.requests.Mark();
-    const int32_t result =
-        Client().OnCollabDeviceFound(MakeDevice("dev-0008-watch", "Old watch", 8), session.subscribeListener, 0);
+    const int32_t result = Client().OnCollabDeviceFound(MakeDevice("dev-0008-watch", "Old watch", 8),
+                                                        session.remotes.subscribeListener, 0);
     const bool sent = session.requests.LastOf(mark, "OnCollabDeviceFound").has_value();
     return {result == 0 && !sent, "Old watch (nearby version 8) -> " + std::to_string(result) +
                                       (sent ? ", but the service was asked" : ", skipped before the service")};
@@ -106,37 +100,31 @@ StepResult ForwardFoundDevice(Session& session)
 {
     const size_t mark = session.requests.Mark();
     const int32_t result =
-        Client().OnCollabDeviceFound(MakeDevice(TABLET_ID, "Sam's tablet", 9), session.subscribeListener, 1);
+        Client().OnCollabDeviceFound(MakeDevice(TABLET_ID, "Sam's tablet", 9), session.remotes.subscribeListener, 1);
     auto request = session.requests.LastOf(mark, "OnCollabDeviceFound");
     const std::string name = request ? RequestLog::Field(*request, "device.deviceName").value_or("?") : "nothing";
     return {result == 1 && name == "\"Sam's tablet\"",
-            "Sam's tablet (nearby version 9) -> " + std::to_string(result) + ", the service found " + name};
+            "Sam's tablet (nearby version 9) -> " + Accepted(result).Text() + ", the service found " + name};
 }
 
 StepResult SendRealFile(Session& session)
 {
-    const TempFile temp("sharectl-file", DEMO_FILE_SIZE);
-    const std::string path = session.arguments.empty() ? temp.Path() : session.arguments[0];
-    const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    struct stat status {};
-    if (fd < 0 || fstat(fd, &status) != 0) {
-        if (fd >= 0) {
-            close(fd);
-        }
-        return {false, "cannot open " + path};
+    std::string error;
+    if (session.file == nullptr && (session.file = FileToSend::Demo(error)) == nullptr) {
+        return {false, error};
     }
+    const FileToSend& file = *session.file;
     DataBean dataBean;
-    dataBean.fileName = path.substr(path.find_last_of('/') + 1);
-    dataBean.fileSize = status.st_size;
-    dataBean.fd = fd;
+    dataBean.fileName = file.Name();
+    dataBean.fileSize = file.Size();
+    dataBean.fd = file.Fd();
     const size_t mark = session.requests.Mark();
     sptr<ZelkonSender> sender = Client().SendFile(ParamFor(session, PHONE_ID), dataBean, PACKAGE_NAME);
-    close(fd);
     auto request = session.requests.LastOf(mark, "SendFile(DataBean)");
     const std::string readable = request ? RequestLog::Field(*request, "dataBean.fd.readable").value_or("?") : "?";
-    StepResult result = SenderResult(sender, dataBean.fileName + " (" + std::to_string(status.st_size) +
+    StepResult result = SenderResult(sender, file.Name() + " (" + std::to_string(file.Size()) +
                                                  " bytes), the service read " + readable + " from the descriptor");
-    result.ok = result.ok && readable == std::to_string(status.st_size) + " bytes";
+    result.ok = result.ok && readable == std::to_string(file.Size()) + " bytes";
     return result;
 }
 
@@ -158,7 +146,7 @@ StepResult SendCommonShare(Session& session)
     share.networkId = TABLET_ID;
     share.resumable = true;
     const size_t mark = session.requests.Mark();
-    sptr<ZelkonSender> sender = Client().CommonShareSend(share, session.transmitCallback);
+    sptr<ZelkonSender> sender = Client().CommonShareSend(share, session.remotes.transmitCallback);
     auto request = session.requests.LastOf(mark, "CommonShareSend");
     const std::string content = request ? RequestLog::Field(*request, "share.content").value_or("?") : "?";
     const std::string expected = "(" + std::to_string(COMMON_SHARE_SIZE) + " bytes)";
@@ -187,7 +175,7 @@ StepResult ListPermanentDevices(Session& session)
 
 StepResult RemovePermanentDevice(Session& session)
 {
-    const int32_t id = session.arguments.empty() ? REMOVED_DEVICE_ID : std::atoi(session.arguments[0].c_str());
+    const int32_t id = session.removedDeviceId;
     const size_t before = Client().GetPermanentDeviceList().size();
     const int32_t result = Client().RemovePermanentDeviceById(id);
     const std::vector<PermanentDeviceInfo> after = Client().GetPermanentDeviceList();
@@ -195,7 +183,7 @@ StepResult RemovePermanentDevice(Session& session)
     for (const PermanentDeviceInfo& device : after) {
         gone = gone && device.id != id;
     }
-    return {result == 1 && gone, "RemovePermanentDeviceById(" + std::to_string(id) + ") -> " + std::to_string(result) +
+    return {result == 1 && gone, "RemovePermanentDeviceById(" + std::to_string(id) + ") -> " + Accepted(result).Text() +
                                      ", left " + DeviceNames(after)};
 }
 

@@ -4,16 +4,16 @@
 #ifndef STEP_RUNNER_H
 #define STEP_RUNNER_H
 
-#include <ostream>
 #include <vector>
 
+#include "output.h"
 #include "session.h"
 
 namespace OHOS {
 namespace Zelkon {
 
 // True when every step succeeded. Later steps still run after a failure, so that one run shows everything.
-bool RunSteps(Session& session, const std::vector<Step>& steps, std::ostream& out);
+bool RunSteps(Session& session, const std::vector<Step>& steps, Output& out);
 
 } // namespace Zelkon
 } // namespace OHOS

@@ -1,38 +1,74 @@
 #include "temp_file.h"
 
+#include <atomic>
+#include <cerrno>
+#include <csignal>
 #include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
+#include <limits.h>
 #include <unistd.h>
-
-#include <vector>
 
 namespace OHOS {
 namespace Zelkon {
+namespace {
+// What the signal handler may touch: a path copied before the flag is raised, and the flag.
+char g_pendingPath[PATH_MAX];
+std::atomic<bool> g_pending{false};
 
-TempFile::TempFile(const std::string& stem, size_t size)
+void RemoveAndDie(int signal)
 {
-    std::string pattern = "/tmp/" + stem + "-XXXXXX";
-    const int fd = mkstemp(pattern.data());
-    if (fd < 0) {
+    if (g_pending.exchange(false)) {
+        unlink(g_pendingPath);
+    }
+    std::signal(signal, SIG_DFL);
+    std::raise(signal);
+}
+
+void RemoveOnSignals(const std::string& path)
+{
+    static const bool installed = [] {
+        struct sigaction action {};
+        action.sa_handler = RemoveAndDie;
+        sigemptyset(&action.sa_mask);
+        return sigaction(SIGINT, &action, nullptr) == 0 && sigaction(SIGTERM, &action, nullptr) == 0;
+    }();
+    (void)installed;
+    std::strncpy(g_pendingPath, path.c_str(), sizeof(g_pendingPath) - 1);
+    g_pending = true;
+}
+
+std::string TempDirectory()
+{
+    const char* directory = std::getenv("TMPDIR");
+    return directory != nullptr && directory[0] != '\0' ? directory : "/tmp";
+}
+} // namespace
+
+TempFile::TempFile(const std::string& stem)
+{
+    std::string pattern = TempDirectory() + "/" + stem + "-XXXXXX";
+    if (pattern.size() >= PATH_MAX) {
+        error_ = "the TMPDIR path is too long";
         return;
     }
-    std::vector<char> contents(size);
-    for (size_t i = 0; i < size; ++i) {
-        contents[i] = static_cast<char>('a' + i % 26);
-    }
-    const bool written = write(fd, contents.data(), size) == static_cast<ssize_t>(size);
-    close(fd);
-    if (!written) {
-        unlink(pattern.c_str());
+    fd_ = mkostemp(pattern.data(), O_CLOEXEC);
+    if (fd_ < 0) {
+        error_ = "cannot create " + pattern + ": " + std::strerror(errno);
         return;
     }
     path_ = pattern;
+    RemoveOnSignals(path_);
 }
 
 TempFile::~TempFile()
 {
-    if (!path_.empty()) {
-        unlink(path_.c_str());
+    if (fd_ < 0) {
+        return;
     }
+    g_pending = false;
+    unlink(path_.c_str());
+    close(fd_);
 }
 
 } // namespace Zelkon

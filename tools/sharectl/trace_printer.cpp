@@ -10,11 +10,20 @@ constexpr size_t BYTES_PER_LINE = 16;
 // Past this, only the head of a parcel is shown: the rest is long texts whose fields are already printed.
 constexpr size_t SHOWN_BYTES = 256;
 
-void PrintFields(std::ostream& out, const DecodedRequest::Fields& fields)
+void PrintFields(std::ostream& out, const DecodedRequest::Fields& fields, const char* mark = "")
 {
     for (const auto& [field, value] : fields) {
-        out << "      " << field << " = " << value << '\n';
+        out << "      " << mark << field << " = " << value << '\n';
     }
+}
+
+nlohmann::ordered_json FieldsJson(const DecodedRequest::Fields& fields)
+{
+    nlohmann::ordered_json object = nlohmann::ordered_json::object();
+    for (const auto& [field, value] : fields) {
+        object[field] = value;
+    }
+    return object;
 }
 
 void PrintBytes(std::ostream& out, const std::vector<uint8_t>& bytes)
@@ -47,6 +56,20 @@ void PrintTrace(std::ostream& out, const DecodedRequest& request)
     out << "  << result " << request.result << " (" << request.replyBytes.size() << " bytes)\n";
     PrintFields(out, request.replyFields);
     PrintBytes(out, request.replyBytes);
+    PrintFields(out, request.notes, "emulator note: ");
+}
+
+nlohmann::ordered_json TraceJson(const DecodedRequest& request)
+{
+    return {{"service", request.service},
+            {"code", request.code},
+            {"operation", request.operation},
+            {"request", FieldsJson(request.fields)},
+            {"requestBytes", request.requestBytes.size()},
+            {"result", request.result},
+            {"reply", FieldsJson(request.replyFields)},
+            {"replyBytes", request.replyBytes.size()},
+            {"emulatorNotes", FieldsJson(request.notes)}};
 }
 
 } // namespace Zelkon

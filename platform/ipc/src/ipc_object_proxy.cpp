@@ -1,6 +1,8 @@
 #include "ipc_object_proxy.h"
 
 #include <algorithm>
+#include <chrono>
+#include <future>
 #include <memory>
 
 #include "ipc_log.h"
@@ -8,6 +10,10 @@
 #include "process_boundary.h"
 
 namespace OHOS {
+namespace {
+// Only a recipient that never returns makes a kill wait this long; the process then goes on without it.
+constexpr std::chrono::seconds DEATH_NOTICE_WAIT{10};
+} // namespace
 
 IPCObjectProxy::IPCObjectProxy(const sptr<IRemoteObject>& target) :
     IRemoteObject(target != nullptr ? target->GetObjectDescriptor() : std::u16string()), target_(target)
@@ -120,12 +126,21 @@ void IPCObjectProxy::Kill()
         return;
     }
     sptr<IPCObjectProxy> self = this;
-    IpcThreads::Post([self, recipients] {
+    auto delivered = std::make_shared<std::promise<void>>();
+    std::future<void> done = delivered->get_future();
+    IpcThreads::Post([self, recipients, delivered] {
         const wptr<IRemoteObject> object(static_cast<IRemoteObject*>(self.GetRefPtr()));
         for (const sptr<DeathRecipient>& recipient : recipients) {
             recipient->OnRemoteDied(object);
         }
+        delivered->set_value();
     });
+    // The killer may count on every notice of this kill having run, as "the next call reloads" needs; an IPC
+    // thread would wait for itself.
+    if (!IpcThreads::IsIpcThread() && done.wait_for(DEATH_NOTICE_WAIT) != std::future_status::ready) {
+        IPC_HOST_LOGE("death notices still running after %{public}lld s",
+                      static_cast<long long>(DEATH_NOTICE_WAIT.count()));
+    }
 }
 
 void IPCObjectProxy::RefuseDeathRecipients(bool refuse)

@@ -144,12 +144,12 @@ TEST_F(EmulatorConformanceTest, SendFileRequestDecodesWithItsRecordsAndPackageNa
     const Fields expected = {
         {"sendBean.previewText", "\"2 photos\""},
         {"sendBean.files", "2"},
-        {"file.uri", "\"file:///a.jpg\""},
-        {"file.name", "\"a.jpg\""},
-        {"file.size", "10"},
-        {"file.uri", "\"file:///b.jpg\""},
-        {"file.name", "\"b.jpg\""},
-        {"file.size", "20"},
+        {"sendBean.files[0].uri", "\"file:///a.jpg\""},
+        {"sendBean.files[0].name", "\"a.jpg\""},
+        {"sendBean.files[0].size", "10"},
+        {"sendBean.files[1].uri", "\"file:///b.jpg\""},
+        {"sendBean.files[1].name", "\"b.jpg\""},
+        {"sendBean.files[1].size", "20"},
         {"packageName", "\"com.example.test\""},
     };
     EXPECT_EQ(tail, expected);

@@ -189,7 +189,7 @@ TEST_F(EmulatorStateTest, TransferAnswersWithASenderThatCancelStops)
                         std::make_pair(std::string("bytesInfo.bytes"), std::string("\"hello\""))),
               fields.end());
     EXPECT_EQ(traced[1].operation, "Cancel");
-    EXPECT_EQ(traced[1].fields.back(), (std::pair<std::string, std::string>("cancelled", "1")));
+    EXPECT_EQ(traced[1].notes.back(), (std::pair<std::string, std::string>("cancelled", "1")));
     EXPECT_FALSE(traced[1].requestBytes.empty());
 }
 

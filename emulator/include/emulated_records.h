@@ -48,6 +48,12 @@ struct PermanentEntry {
     int64_t timestamp = 0;
 };
 
+// The switch of the share manager service: on or off, and the state value it was last given.
+struct SharingSwitch {
+    bool enabled = true;
+    int32_t state = 1;
+};
+
 struct AccountEntry {
     std::string accountId;
     std::string accountIdHash;

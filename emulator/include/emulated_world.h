@@ -1,0 +1,39 @@
+/*
+ * What the emulated services start from: the users nearby, the permanent devices, the account, the sharing switch
+ * and the preview data. A world is written to and read from JSON, so that a test or `sharectl --world FILE` seeds
+ * its own; the keys are the field names of the records as the services' interfaces name them.
+ */
+#ifndef EMULATED_WORLD_H
+#define EMULATED_WORLD_H
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "emulated_records.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+struct EmulatedWorld {
+    std::vector<UserEntry> users;
+    std::vector<PermanentEntry> permanentDevices;
+    AccountEntry account;
+    SharingSwitch sharingSwitch;
+    std::string previewData;
+
+    // Three users, three permanent devices, an account, sharing on with state 1, and 43 KiB of preview data:
+    // above the inline limit of a parcel, so that it travels in shared memory.
+    static EmulatedWorld BuiltIn();
+    // Strict: an unknown key, a wrong type or a number out of its field's range is refused, with the path of the
+    // field in `error` ("users[1].deviceType: ..."). Sections left out keep the built-in world's; fields left out
+    // of a record are 0, false or empty.
+    static std::optional<EmulatedWorld> FromJson(const std::string& text, std::string& error);
+    // Every section and every field, indented.
+    std::string ToJson() const;
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // EMULATED_WORLD_H

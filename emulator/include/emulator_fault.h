@@ -1,0 +1,39 @@
+/*
+ * A fault that the emulated services play on demand, so that an application can see its own error paths: loads
+ * that fail or answer late, a share service process that dies, hostile replies. Written as text by
+ * `sharectl --fault FAULT`; EmulatorFault::GRAMMAR says how.
+ */
+#ifndef EMULATOR_FAULT_H
+#define EMULATOR_FAULT_H
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace OHOS {
+namespace Zelkon {
+
+struct EmulatorFault {
+    enum class Kind {
+        LOAD_FAILS,           // the next `value` loads of the share service fail
+        LOAD_DELAYED,         // the next load answers after `value` milliseconds
+        DIES_AFTER_REQUESTS,  // the share service process dies right after answering `value` more requests
+        DIES_IN_REQUEST,      // it dies in the middle of its next request with code `value`: no reply
+        HOSTILE_COUNT,        // the next list reply counts more records than the bound of 1000
+        TRUNCATED_RECORD,     // the next reply that carries records ends in the middle of its last record
+        OVERSIZED_BIG_STRING, // the next big string reply (the preview data) is above its limit of 5 MiB
+    };
+
+    Kind kind = Kind::LOAD_FAILS;
+    uint32_t value = 1;
+
+    // One line per form of FAULT, for help texts.
+    static const char* const GRAMMAR;
+    // Empty, with the reason in `error`, for a FAULT text that is not one of GRAMMAR's forms.
+    static std::optional<EmulatorFault> Parse(const std::string& text, std::string& error);
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // EMULATOR_FAULT_H

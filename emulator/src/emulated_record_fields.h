@@ -1,0 +1,104 @@
+/*
+ * The JSON field lists of the emulator's records, for the world file and the state dump. Keys are the field names
+ * of the records as the services' interfaces name them, so that a user in a world file reads like the device
+ * record an application passes.
+ */
+#ifndef EMULATED_RECORD_FIELDS_H
+#define EMULATED_RECORD_FIELDS_H
+
+#include "emulated_records.h"
+#include "emulated_world.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, ContactEntry& contact)
+{
+    visitor.Field("contactKind", contact.kind);
+    visitor.Field("contactName", contact.name);
+    visitor.Field("contactPhoto", contact.photo);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, UserEntry& user)
+{
+    visitor.Field("deviceName", user.deviceName);
+    visitor.Field("norvaneIdName", user.norvaneIdName);
+    visitor.Field("avatar", user.avatar);
+    visitor.Field("colorId", user.colorId);
+    visitor.Field("eventCode", user.eventCode);
+    visitor.Field("stateCode", user.stateCode);
+    visitor.Field("percent", user.percent);
+    visitor.Field("speed", user.speed);
+    visitor.Field("isDisappeared", user.isDisappeared);
+    visitor.Field("deviceType", user.deviceType);
+    visitor.Field("deviceId", user.deviceId);
+    visitor.Field("nearbyVersion", user.nearbyVersion);
+    visitor.Field("lastSharedTime", user.lastSharedTime);
+    visitor.Field("isSameAccount", user.isSameAccount);
+    visitor.Field("contactInfo", user.contact);
+    visitor.Field("isOHDevice", user.isOHDevice);
+    visitor.Field("deviceFounder", user.deviceFounder);
+    visitor.Field("concurentId", user.concurentId);
+    visitor.Field("extraValue", user.extraValue);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, PermanentEntry& device)
+{
+    visitor.Field("id", device.id);
+    visitor.Field("deviceName", device.deviceName);
+    visitor.Field("deviceType", device.deviceType);
+    visitor.Field("deviceId", device.deviceId);
+    visitor.Field("timestamp", device.timestamp);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, AccountEntry& account)
+{
+    visitor.Field("norvaneAccountID", account.accountId);
+    visitor.Field("norvaneAccountIDHash", account.accountIdHash);
+    visitor.Field("status", account.status);
+    visitor.Field("callingUid", account.callingUid);
+    visitor.Field("nickName", account.nickName);
+    visitor.Field("avatar", account.avatar);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, SharingSwitch& sharingSwitch)
+{
+    visitor.Field("enabled", sharingSwitch.enabled);
+    visitor.Field("state", sharingSwitch.state);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, FoundDevice& device)
+{
+    visitor.Field("deviceId", device.deviceId);
+    visitor.Field("deviceName", device.deviceName);
+    visitor.Field("nearbyVersion", device.nearbyVersion);
+    visitor.Field("ohFlag", device.ohFlag);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, TransferPayload& payload)
+{
+    visitor.Field("files", payload.files);
+    visitor.Field("bytes", payload.bytes);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, EmulatedWorld& world)
+{
+    visitor.Field("users", world.users);
+    visitor.Field("permanentDevices", world.permanentDevices);
+    visitor.Field("account", world.account);
+    visitor.Field("sharingSwitch", world.sharingSwitch);
+    visitor.Field("previewData", world.previewData);
+}
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // EMULATED_RECORD_FIELDS_H

@@ -1,0 +1,41 @@
+/*
+ * The faults armed for the emulated services: when the share service process dies, and which hostile replies are
+ * pending. Shared by every service instance, like the trace, so that a fault armed before a load also reaches the
+ * loaded service. Each fault plays once.
+ */
+#ifndef FAULT_PLAN_H
+#define FAULT_PLAN_H
+
+#include <cstdint>
+#include <map>
+#include <mutex>
+#include <optional>
+
+#include "emulator_fault.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+class FaultPlan {
+public:
+    enum class Death { NONE, BEFORE_REPLY, AFTER_REPLY };
+
+    // Death and reply faults; load faults are scripted in the system ability manager instead.
+    void Arm(const EmulatorFault& fault);
+    void Clear();
+    // Asked by every request of a service before it is handled.
+    Death OnRequest(int32_t systemAbilityId, uint32_t code);
+    // True once per armed reply fault of that kind.
+    bool Take(EmulatorFault::Kind kind);
+
+private:
+    std::mutex mutex_;
+    std::map<EmulatorFault::Kind, uint32_t> pendingReplies_;
+    std::optional<uint32_t> requestsBeforeDeath_;
+    std::optional<uint32_t> deathCode_;
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // FAULT_PLAN_H

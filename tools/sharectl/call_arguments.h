@@ -1,0 +1,58 @@
+/*
+ * The arguments of one `call`, given as NAME=VALUE and read strictly by the types of the operation's table: an
+ * unknown name, a value out of its type's range, JSON with an unknown field or a wrong type is a usage error that
+ * names it. An argument left out is 0, false, empty, or the record as the library constructs it.
+ */
+#ifndef CALL_ARGUMENTS_H
+#define CALL_ARGUMENTS_H
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "json_field_reader.h"
+#include "library_record_fields.h"
+#include "operation.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+class CallArguments {
+public:
+    // Throws UsageError.
+    CallArguments(const Operation& operation, const std::vector<std::string>& texts);
+
+    int32_t Int32(const char* name) const { return ValueOr<int32_t>(name); }
+    uint32_t Uint32(const char* name) const { return ValueOr<uint32_t>(name); }
+    bool Bool(const char* name) const { return ValueOr<bool>(name); }
+    std::string String(const char* name) const { return ValueOr<std::string>(name); }
+
+    template <typename Record>
+    Record RecordOf(const char* name) const
+    {
+        Record record;
+        auto value = values_.find(name);
+        if (value != values_.end()) {
+            JsonFieldReader::Read(value->second, name, record);
+        }
+        return record;
+    }
+
+private:
+    template <typename Value>
+    Value ValueOr(const char* name) const
+    {
+        auto value = values_.find(name);
+        return value != values_.end() ? value->second.get<Value>() : Value();
+    }
+
+    // Checked when the arguments were read.
+    std::map<std::string, nlohmann::json> values_;
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // CALL_ARGUMENTS_H

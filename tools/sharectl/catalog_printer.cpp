@@ -1,0 +1,108 @@
+#include "catalog_printer.h"
+
+#include <cstdio>
+
+#include "argument_types.h"
+#include "json_field_schema.h"
+#include "share_emulator.h"
+
+namespace OHOS {
+namespace Zelkon {
+namespace {
+constexpr int INDENT = 2;
+// A result longer than this, or of several lines, is shown under the line that names it.
+constexpr size_t INLINE_LENGTH = 80;
+
+std::string Dumped(const nlohmann::ordered_json& json, int indent = -1)
+{
+    return json.dump(indent, ' ', false, nlohmann::json::error_handler_t::replace);
+}
+
+nlohmann::ordered_json SchemaOf(ArgumentType type)
+{
+    nlohmann::ordered_json schema;
+    ForRecordType(type, [&schema](auto record) { schema = JsonFieldSchema::Of<decltype(record)>(); });
+    return schema;
+}
+
+std::string ArgumentText(const Argument& argument)
+{
+    std::string text = ArgumentTypeName(argument);
+    if (argument.type == ArgumentType::LOCAL_STUB) {
+        return text + ": a local stub that sharectl creates";
+    }
+    const nlohmann::ordered_json schema = SchemaOf(argument.type);
+    if (!schema.is_null()) {
+        text += ", as JSON: " + Dumped(schema);
+    }
+    if (argument.type == ArgumentType::TRANSMIT_PARAM) {
+        text += "; its transCallback is a local stub that sharectl creates";
+    }
+    return text;
+}
+
+std::string ServiceDescription(ServiceKind service)
+{
+    return service == ServiceKind::SHARE
+               ? "the share service (system ability " + std::to_string(EMULATED_SHARE_SERVICE_ID) + ")"
+               : "the share manager service (system ability " + std::to_string(EMULATED_SHARE_MANAGER_ID) + ")";
+}
+} // namespace
+
+void PrintOperationList(Output& out)
+{
+    nlohmann::ordered_json& listed = out.Document()["operations"] = nlohmann::ordered_json::array();
+    for (const Operation* operation : AllOperations()) {
+        char line[128];
+        std::snprintf(line, sizeof(line), "%-8s %3u  %s", ServiceName(operation->service), operation->code,
+                      operation->name);
+        out.Line(line);
+        listed.push_back(
+            {{"service", ServiceName(operation->service)}, {"code", operation->code}, {"name", operation->name}});
+    }
+    out.Line("(share.NAME and manager.NAME: both services have the name; call it with its service)");
+}
+
+void PrintOperationDescription(const Operation& operation, Output& out)
+{
+    out.Line(std::string(operation.name) + ": request code " + std::to_string(operation.code) + " of " +
+             ServiceDescription(operation.service));
+    out.Line("  calls      " + ClientFunction(operation) + ", which returns " + operation.result);
+    nlohmann::ordered_json arguments = nlohmann::ordered_json::array();
+    out.Line(operation.arguments.empty() ? "  arguments  none" : "  arguments");
+    for (const Argument& argument : operation.arguments) {
+        out.Line("    " + std::string(argument.name) + "  " + ArgumentText(argument));
+        arguments.push_back({{"name", argument.name},
+                             {"type", ArgumentTypeName(argument)},
+                             {"createdBySharectl", argument.type == ArgumentType::LOCAL_STUB},
+                             {"schema", SchemaOf(argument.type)}});
+    }
+    out.Line("  request    the interface token, then " + operation.request);
+    out.Line("  reply      " + operation.reply);
+    out.Document() = {{"name", operation.name},       {"service", ServiceName(operation.service)},
+                      {"code", operation.code},       {"client", ClientFunction(operation)},
+                      {"result", operation.result},   {"arguments", arguments},
+                      {"request", operation.request}, {"reply", operation.reply}};
+}
+
+void PrintCallOutcome(const Operation& operation, const CallOutcome& outcome, Output& out)
+{
+    out.Document() = {{"operation", operation.name},
+                      {"service", ServiceName(operation.service)},
+                      {"code", operation.code},
+                      {"result", outcome.value},
+                      {"meaning", outcome.meaning}};
+    const std::string head = std::string(operation.name) + " ->";
+    const bool text = outcome.value.is_string();
+    const std::string shown = text ? outcome.value.get<std::string>() : Dumped(outcome.value);
+    if (shown.size() <= INLINE_LENGTH && shown.find('\n') == std::string::npos) {
+        out.Line(head + " " + outcome.Text());
+        return;
+    }
+    // The value on lines of its own, under what it is: a text as it is, anything else indented.
+    out.Line(head + (outcome.meaning.empty() ? "" : " " + outcome.meaning));
+    out.Line(text ? shown : Dumped(outcome.value, INDENT));
+}
+
+} // namespace Zelkon
+} // namespace OHOS

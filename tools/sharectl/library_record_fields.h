@@ -1,0 +1,136 @@
+/*
+ * The JSON field lists of the library's records, as an application fills them: the arguments of `sharectl call`
+ * are read with them and its results written with them. Keys are the records' own member names. The callback
+ * of a TransmitParam is not among them: sharectl creates it.
+ */
+#ifndef LIBRARY_RECORD_FIELDS_H
+#define LIBRARY_RECORD_FIELDS_H
+
+#include "share_client.h"
+#include "share_manager_client.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, ContactInfo& contact)
+{
+    visitor.Field("contactKind", contact.contactKind);
+    visitor.Field("contactName", contact.contactName);
+    visitor.Field("contactPhoto", contact.contactPhoto);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, ShareDeviceInfo& info)
+{
+    visitor.Field("deviceName", info.deviceName);
+    visitor.Field("norvaneIdName", info.norvaneIdName);
+    visitor.Field("avatar", info.avatar);
+    visitor.Field("colorId", info.colorId);
+    visitor.Field("eventCode", info.eventCode);
+    visitor.Field("stateCode", info.stateCode);
+    visitor.Field("percent", info.percent);
+    visitor.Field("speed", info.speed);
+    visitor.Field("isDisappeared", info.isDisappeared);
+    visitor.Field("deviceType", info.deviceType);
+    visitor.Field("deviceId", info.deviceId);
+    visitor.Field("nearbyVersion", info.nearbyVersion);
+    visitor.Field("lastSharedTime", info.lastSharedTime);
+    visitor.Field("isSameAccount", info.isSameAccount);
+    visitor.Field("contactInfo", info.contactInfo);
+    visitor.Field("isOHDevice", info.isOHDevice);
+    visitor.Field("deviceFounder", info.deviceFounder);
+    visitor.Field("concurentId", info.concurentId);
+    visitor.Field("extraValue", info.extraValue);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, FileItem& file)
+{
+    visitor.Field("uri", file.uri);
+    visitor.Field("name", file.name);
+    visitor.Field("size", file.size);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, SendBean& sendBean)
+{
+    visitor.Field("previewText", sendBean.previewText);
+    visitor.Field("files", sendBean.files);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, DataBean& dataBean)
+{
+    visitor.Field("fileName", dataBean.fileName);
+    visitor.Field("fileSize", dataBean.fileSize);
+    visitor.Field("fd", dataBean.fd);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, BytesInfo& bytesInfo)
+{
+    visitor.Field("mimeType", bytesInfo.mimeType);
+    visitor.Field("bytes", bytesInfo.bytes);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, ShareItem& item)
+{
+    visitor.Field("uri", item.uri);
+    visitor.Field("fd", item.fd);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, CommonShareObject& share)
+{
+    visitor.Field("type", share.type);
+    visitor.Field("timeout", share.timeout);
+    visitor.Field("items", share.items);
+    visitor.Field("content", share.content);
+    visitor.Field("networkId", share.networkId);
+    visitor.Field("resumable", share.resumable);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, ShareDevice& device)
+{
+    visitor.Field("deviceId", device.deviceId);
+    visitor.Field("deviceName", device.deviceName);
+    visitor.Field("nbVersion_", device.nbVersion_);
+    visitor.Field("ohFlag_", device.ohFlag_);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, TransmitParam& param)
+{
+    visitor.Field("deviceId", param.deviceId);
+    visitor.Field("timeout", param.timeout);
+    visitor.Field("transmitEventType", param.transmitEventType);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, PermanentDeviceInfo& device)
+{
+    visitor.Field("id", device.id);
+    visitor.Field("deviceName", device.deviceName);
+    visitor.Field("deviceType", device.deviceType);
+    visitor.Field("deviceId", device.deviceId);
+    visitor.Field("timestamp", device.timestamp);
+}
+
+template <typename Visitor>
+void VisitFields(Visitor& visitor, ShareAccountInfo& account)
+{
+    visitor.Field("norvaneAccountID", account.norvaneAccountID);
+    visitor.Field("norvaneAccountIDHash", account.norvaneAccountIDHash);
+    visitor.Field("status", account.status);
+    visitor.Field("callingUid", account.callingUid);
+    visitor.Field("nickName", account.nickName);
+    visitor.Field("avatar", account.avatar);
+}
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // LIBRARY_RECORD_FIELDS_H

@@ -1,0 +1,43 @@
+#include "output.h"
+
+#include <cerrno>
+#include <cstring>
+#include <iostream>
+
+namespace OHOS {
+namespace Zelkon {
+
+void Output::Check()
+{
+    if (!std::cout && writeError_.empty()) {
+        writeError_ = errno != 0 ? std::strerror(errno) : "the stream failed";
+    }
+}
+
+void Output::Line(const std::string& line)
+{
+    if (!json_) {
+        errno = 0;
+        std::cout << line << std::endl;
+        Check();
+    }
+}
+
+bool Output::Finish()
+{
+    constexpr int INDENT = 2;
+    errno = 0;
+    if (json_) {
+        std::cout << document_.dump(INDENT, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
+    }
+    std::cout.flush();
+    Check();
+    if (writeError_.empty()) {
+        return true;
+    }
+    std::cerr << "sharectl: cannot write the output: " << writeError_ << std::endl;
+    return false;
+}
+
+} // namespace Zelkon
+} // namespace OHOS
