@@ -18,6 +18,7 @@ protected:
     void SetUp() override
     {
         // This process takes part before its descriptors are counted: its listening sockets stay for good.
+        LeaveStaleSocket(ownPath_);
         ASSERT_TRUE(IpcHostTransport::ServeContextObject(ownPath_, new IPCObjectStub(u"test.ipc.Own")));
         fdsBefore_ = OpenFds();
         peer_ = std::make_unique<PeerProcess>();
@@ -237,6 +238,7 @@ TEST_F(IpcTransportTest, DeathOfThePeerKillsItsProxiesAndTellsEachRecipientOnce)
         EXPECT_TRUE(recipient->OnIpcThreadWithTheObject());
     }
     EXPECT_EQ(removed->Calls(), 0);
+    EXPECT_EQ(IpcHostTransport::ConnectToContextObject(peer_->Path()), nullptr);
     EXPECT_EQ(IpcHostTransport::SessionCount(), 0u);
     remote_ = nullptr;
     EXPECT_EQ(OpenFds(), fdsBefore_);

@@ -1,6 +1,7 @@
 /*
- * Building blocks of the transport tests: a latch to wait on without sleeping, the count of this process's open
- * descriptors, a death recipient that counts its notices, and a local object that tells when it is destroyed.
+ * Building blocks of the transport tests: a latch to wait on without sleeping, a stale socket file, the count of
+ * this process's open descriptors, a death recipient that counts its notices, and a local object that tells when
+ * it is destroyed.
  */
 #ifndef TRANSPORT_TEST_HELPERS_H
 #define TRANSPORT_TEST_HELPERS_H
@@ -8,8 +9,13 @@
 #include <chrono>
 #include <condition_variable>
 #include <dirent.h>
+#include <functional>
 #include <memory>
 #include <mutex>
+#include <string>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
 
 #include "ipc_object_stub.h"
 #include "ipc_threads.h"
@@ -36,6 +42,17 @@ private:
     std::condition_variable opened_;
     bool open_ = false;
 };
+
+// A socket file that nobody listens at any more, as a process that died while serving leaves it behind.
+inline void LeaveStaleSocket(const std::string& path)
+{
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    path.copy(address.sun_path, sizeof(address.sun_path) - 1);
+    const int fd = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    bind(fd, reinterpret_cast<const sockaddr*>(&address), sizeof(address));
+    close(fd);
+}
 
 inline int OpenFds()
 {
