@@ -37,7 +37,8 @@ public:
                         ServiceChannels channels);
 
     int OnRemoteRequest(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option) override;
-    // The service's state, and its requests counted by code.
+    // The service's state, and its requests counted by code. (The platform's Dump(fd, args) stays beside it.)
+    using IPCObjectStub::Dump;
     nlohmann::ordered_json Dump();
 
 protected:
