@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "ipc_host_transport.h"
+#include "ipc_object_proxy.h"
 #include "peer_process.h"
 #include "transport_test_helpers.h"
 
@@ -96,6 +97,12 @@ TEST_F(IpcTransportTest, OwnObjectSentBackArrivesAsItselfAndLivesWhileThePeerHol
     EXPECT_FALSE(destroyed->IsOpen());
     AskObject(DROP);
     EXPECT_TRUE(destroyed->Wait(5s));
+
+    // A remote object of the in-process world has no meaning in another process.
+    MessageParcel data;
+    MessageParcel reply;
+    data.WriteRemoteObject(new IPCObjectProxy(new IPCObjectStub()));
+    EXPECT_EQ(Send(HOLD, data, reply), ERR_FLATTEN_OBJECT);
 }
 
 TEST_F(IpcTransportTest, ThirdProcessObjectKeepsItsIdentityAndLivesWhileAnyProcessHoldsIt)
