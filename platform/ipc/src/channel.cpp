@@ -21,19 +21,19 @@ int Channel::Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds
         inCall_ = true;
         socket = socket_.Get();
     }
-    // A peer that stops reading holds a send no longer than the caller waits for the reply.
-    // (A zero timeout would be no timeout at all.)
+    // A peer that stops reading holds a send, and a peer that does not answer the read of its reply, no longer than
+    // the caller waits (a zero timeout would be no timeout at all).
     const auto waitTime = std::max(std::chrono::ceil<std::chrono::seconds>(deadline - FrameSocket::Clock::now()),
                                    std::chrono::seconds(1));
-    if (waitTime != sendTimeout_) {
-        FrameSocket::SetSendTimeout(socket, waitTime);
-        sendTimeout_ = waitTime;
+    if (waitTime != timeout_) {
+        FrameSocket::SetTimeouts(socket, waitTime);
+        timeout_ = waitTime;
     }
     int result = ERR_NONE;
     if (!FrameSocket::Send(socket, bytes, fds)) {
         result = ERR_DEAD_OBJECT;
     } else if (reply != nullptr) {
-        switch (FrameSocket::Receive(socket, deadline, *reply)) {
+        switch (FrameSocket::Receive(socket, deadline, *reply, true)) {
         case FrameSocket::Result::OK:
             result = reply->kind == IpcFrame::Kind::REPLY ? ERR_NONE : ERR_INVALID_REPLY;
             break;

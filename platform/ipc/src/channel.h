@@ -33,7 +33,7 @@ private:
     UniqueFd socket_;
     bool inCall_ = false;
     bool retired_ = false;
-    std::chrono::seconds sendTimeout_{0};
+    std::chrono::seconds timeout_{0};
 };
 
 } // namespace OHOS

@@ -16,6 +16,8 @@ constexpr std::chrono::seconds CONNECT_TIMEOUT{5};
 // A body is read in pieces that grow with what arrived, so that a peer announcing far more than it sends cannot
 // make this process reserve the whole announced size.
 constexpr size_t FIRST_BODY_PIECE = 64 * 1024;
+// A reply is read with what may follow its header in one piece: small replies take one read.
+constexpr size_t REPLY_READ_AHEAD = 4096 - IpcFrame::HEADER_SIZE;
 
 using Result = FrameSocket::Result;
 
@@ -84,27 +86,30 @@ Result AwaitReadable(int socket, const FrameSocket::Deadline& deadline)
     }
 }
 
-// Reads exactly size bytes, collecting the descriptors that come with them. A frame that ends early is refused;
-// the end of the connection before its first byte is a close.
-Result ReadExactly(int socket, uint8_t* data, size_t size, const FrameSocket::Deadline& deadline,
-                   std::vector<UniqueFd>& fds, bool frameStart)
+// Reads until at least `least` bytes are there and at most `most`, collecting the descriptors that come with them;
+// got counts what is there. A frame that ends early is refused; the end of the connection before its first byte is a
+// close. With blockFirst the first read waits on the socket's own receive timeout rather than a poll.
+Result ReadAtLeast(int socket, uint8_t* data, size_t least, size_t most, const FrameSocket::Deadline& deadline,
+                   std::vector<UniqueFd>& fds, bool frameStart, bool blockFirst, size_t& got)
 {
     alignas(cmsghdr) char control[CMSG_SPACE(IpcFrame::MAX_FDS * sizeof(int))];
     // The rest of a frame is usually there already: it is read before any wait.
-    bool await = frameStart;
-    size_t got = 0;
-    while (got < size) {
+    bool await = frameStart && !blockFirst;
+    bool block = blockFirst;
+    while (got < least) {
         const Result ready = await ? AwaitReadable(socket, deadline) : Result::OK;
         if (ready != Result::OK) {
             return ready;
         }
-        iovec piece{data + got, size - got};
+        iovec piece{data + got, most - got};
         msghdr message{};
         message.msg_iov = &piece;
         message.msg_iovlen = 1;
         message.msg_control = control;
         message.msg_controllen = sizeof(control);
-        const ssize_t count = recvmsg(socket, &message, MSG_CMSG_CLOEXEC | (deadline.has_value() ? MSG_DONTWAIT : 0));
+        const bool wait = block || !deadline.has_value();
+        const ssize_t count = recvmsg(socket, &message, MSG_CMSG_CLOEXEC | (wait ? 0 : MSG_DONTWAIT));
+        block = false;
         if (count < 0 && (errno == EAGAIN || errno == EWOULDBLOCK)) {
             await = true;
             continue;
@@ -164,11 +169,13 @@ bool FrameSocket::Send(int socket, const std::vector<uint8_t>& bytes, const std:
     return true;
 }
 
-FrameSocket::Result FrameSocket::Receive(int socket, Deadline deadline, IpcFrame& frame)
+FrameSocket::Result FrameSocket::Receive(int socket, Deadline deadline, IpcFrame& frame, bool lastOnSocket)
 {
-    std::vector<uint8_t> bytes(IpcFrame::HEADER_SIZE);
+    std::vector<uint8_t> bytes(IpcFrame::HEADER_SIZE + (lastOnSocket ? REPLY_READ_AHEAD : 0));
     std::vector<UniqueFd> fds;
-    Result result = ReadExactly(socket, bytes.data(), bytes.size(), deadline, fds, true);
+    size_t got = 0;
+    Result result =
+        ReadAtLeast(socket, bytes.data(), IpcFrame::HEADER_SIZE, bytes.size(), deadline, fds, true, lastOnSocket, got);
     if (result != Result::OK) {
         return result;
     }
@@ -178,16 +185,19 @@ FrameSocket::Result FrameSocket::Receive(int socket, Deadline deadline, IpcFrame
         IPC_HOST_LOGE("refused a frame: %{public}s", error);
         return Result::REFUSED;
     }
-    size_t got = 0;
-    while (got < bodySize && result == Result::OK) {
-        const size_t piece = std::min(bodySize - got, std::max(got, FIRST_BODY_PIECE));
-        bytes.resize(IpcFrame::HEADER_SIZE + got + piece);
-        result = ReadExactly(socket, bytes.data() + IpcFrame::HEADER_SIZE + got, piece, deadline, fds, false);
-        got += piece;
+    const size_t size = IpcFrame::HEADER_SIZE + bodySize;
+    if (got > size) {
+        IPC_HOST_LOGE("refused a frame: bytes followed it");
+        return Result::REFUSED;
+    }
+    while (got < size && result == Result::OK) {
+        bytes.resize(got + std::min(size - got, std::max(got, FIRST_BODY_PIECE)));
+        result = ReadAtLeast(socket, bytes.data(), bytes.size(), bytes.size(), deadline, fds, false, false, got);
     }
     if (result != Result::OK) {
         return result;
     }
+    bytes.resize(size);
     std::optional<IpcFrame> decoded = IpcFrame::Decode(std::move(bytes), std::move(fds), error);
     if (!decoded.has_value()) {
         IPC_HOST_LOGE("refused a frame: %{public}s", error);
@@ -208,7 +218,7 @@ UniqueFd FrameSocket::Connect(const std::string& address, Namespace space)
         return socket;
     }
     // A listener that no longer accepts must not hold the caller forever.
-    SetSendTimeout(socket.Get(), CONNECT_TIMEOUT);
+    SetTimeouts(socket.Get(), CONNECT_TIMEOUT);
     if (connect(socket.Get(), reinterpret_cast<const sockaddr*>(&target.address), target.length) != 0) {
         return UniqueFd();
     }
@@ -243,10 +253,11 @@ pid_t FrameSocket::PeerPid(int socket)
     return credentials.pid;
 }
 
-void FrameSocket::SetSendTimeout(int socket, std::chrono::seconds timeout)
+void FrameSocket::SetTimeouts(int socket, std::chrono::seconds timeout)
 {
     const timeval limit{static_cast<time_t>(timeout.count()), 0};
     setsockopt(socket, SOL_SOCKET, SO_SNDTIMEO, &limit, sizeof(limit));
+    setsockopt(socket, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof(limit));
 }
 
 } // namespace OHOS

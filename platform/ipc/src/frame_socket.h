@@ -1,7 +1,7 @@
 /*
  * Host: frames over Unix stream sockets. A frame is sent whole with its descriptors (SCM_RIGHTS), received exactly
- * (never a byte of the next one) within a deadline, and decoded; the sockets are those of the abstract namespace
- * (a process's own address, nothing on disk) or of the filesystem (a well-known path).
+ * (never a byte of the next one, unless nothing may follow) within a deadline, and decoded; the sockets are those of
+ * the abstract namespace (a process's own address, nothing on disk) or of the filesystem (a well-known path).
  */
 #ifndef OHOS_IPC_FRAME_SOCKET_H
 #define OHOS_IPC_FRAME_SOCKET_H
@@ -31,8 +31,10 @@ public:
 
     // False if the connection is broken or stalls beyond the socket's send timeout.
     static bool Send(int socket, const std::vector<uint8_t>& bytes, const std::vector<int>& fds);
-    // Without a deadline, waits as long as it takes.
-    static Result Receive(int socket, Deadline deadline, IpcFrame& frame);
+    // Without a deadline, waits as long as it takes. lastOnSocket: nothing follows the frame until this side writes
+    // again (a reply), so it is read ahead in one piece, and the first wait is the socket's receive timeout, which
+    // the caller keeps at the time left to the deadline (SetTimeouts).
+    static Result Receive(int socket, Deadline deadline, IpcFrame& frame, bool lastOnSocket = false);
 
     // A connected socket, or an invalid one (logged).
     static UniqueFd Connect(const std::string& address, Namespace space);
@@ -40,8 +42,8 @@ public:
     static UniqueFd Listen(const std::string& address, Namespace space);
     // The process at the other end as the kernel knows it, or -1.
     static pid_t PeerPid(int socket);
-    // How long a send may make no progress before it fails.
-    static void SetSendTimeout(int socket, std::chrono::seconds timeout);
+    // How long a send may make no progress before it fails, and how long a blocking read waits.
+    static void SetTimeouts(int socket, std::chrono::seconds timeout);
 };
 
 } // namespace OHOS
