@@ -282,6 +282,7 @@ TEST_F(ShareManagerRequestTest, WithoutTheServiceEveryOperationGivesTheNeutralRe
 {
     ASSERT_TRUE(SamgrHostControl::KillSystemAbility(SHARE_MANAGER_SA_ID));
     SamgrHostControl::Reset();
+    EXPECT_EQ(Client().Connect(), -1);
     for (const Operation& operation : Operations()) {
         SCOPED_TRACE(operation.name);
         log_.Clear();
@@ -293,7 +294,7 @@ TEST_F(ShareManagerRequestTest, WithoutTheServiceEveryOperationGivesTheNeutralRe
         EXPECT_EQ(ErrorLines(log_, CLIENT_TAG), operation.noProxy == nullptr ? 2u : 3u);
         EXPECT_EQ(Logged(CLIENT_TAG, operation.lines[1].level, operation.lines[1].text), 0u);
     }
-    EXPECT_EQ(SamgrHostControl::LookupCount(SHARE_MANAGER_SA_ID), static_cast<int>(Operations().size()));
+    EXPECT_EQ(SamgrHostControl::LookupCount(SHARE_MANAGER_SA_ID), static_cast<int>(Operations().size()) + 1);
     // Started later, the service is found by the next call.
     stub_ = StartService();
     EXPECT_TRUE(Client().IsEnabled());
