@@ -1,0 +1,323 @@
+/*
+ * Every record against its layout as the services lay it out, through one driver: the record's writer must put
+ * the bytes that the parcel's own primitives put field by field, and fail with the field's text (and nothing else)
+ * when the room ends at a field; its reader must read those bytes back to the same record, refuse them cut at any
+ * byte, and name the field where they end.
+ */
+#include <functional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "bytes_info.h"
+#include "common_share_object.h"
+#include "contact_info.h"
+#include "data_bean.h"
+#include "hilog/log_capture.h"
+#include "message_parcel.h"
+#include "parcel_bytes.h"
+#include "permanent_device_info.h"
+#include "sample_records.h"
+#include "send_bean.h"
+#include "share_device.h"
+
+namespace OHOS {
+namespace Zelkon {
+namespace {
+
+using Write = std::function<bool(MessageParcel&)>;
+
+// One field as the service lays it out: its write with the parcel's primitives, and what the record's writer and
+// reader log when the parcel ends there (null: nothing).
+struct Field {
+    Write write;
+    const char* writeFailure = nullptr;
+    const char* readFailure = nullptr;
+    const char* readTag = "ShareStub";
+};
+
+enum class Read { FAILED, DIFFERENT, SAME };
+
+struct RecordCase {
+    const char* name;
+    std::vector<Field> layout;
+    // The record's writer on the sample; null where the library only reads the record.
+    Write write;
+    // The record's reader, and whether it read the sample; null where the library only writes the record.
+    std::function<Read(MessageParcel&)> read;
+    const char* writeTag = "ShareProxy";
+};
+
+// A reader that compares what it read with the sample by writing both with the record's (layout-checked) writer.
+template <typename Record>
+std::function<Read(MessageParcel&)> ReadsBack(const Record& sample)
+{
+    return [sample](MessageParcel& parcel) {
+        Record read;
+        if (!read.ReadFromParcel(parcel)) {
+            return Read::FAILED;
+        }
+        MessageParcel expected;
+        MessageParcel actual;
+        return sample.WriteToParcel(expected) && read.WriteToParcel(actual) && BytesOf(actual) == BytesOf(expected)
+                   ? Read::SAME
+                   : Read::DIFFERENT;
+    };
+}
+
+template <typename Record>
+Write Writes(const Record& sample)
+{
+    return [sample](MessageParcel& parcel) { return sample.WriteToParcel(parcel); };
+}
+
+Write Str(const std::string& value)
+{
+    return [value](MessageParcel& p) { return p.WriteString(value); };
+}
+
+Write I32(int32_t value)
+{
+    return [value](MessageParcel& p) { return p.WriteInt32(value); };
+}
+
+Write I64(int64_t value)
+{
+    return [value](MessageParcel& p) { return p.WriteInt64(value); };
+}
+
+RecordCase DeviceCase()
+{
+    // Empty avatar and photo leave the limit alone, so the room decides which field fails.
+    ShareDeviceInfo d = FilledDevice();
+    d.avatar.clear();
+    d.contactInfo.contactPhoto.clear();
+    const ContactInfo contact = d.contactInfo;
+    return {"ShareDeviceInfo",
+            {{Str(d.deviceName)},
+             {Str(d.norvaneIdName), "WriteString norvaneIdName failed.", "ReadString norvaneIdName failed."},
+             {Str(d.avatar), "WriteString avatar failed.", "ReadString avatar failed."},
+             {I32(d.colorId), "WriteInt32 colorId failed.", "ReadInt32 colorId failed."},
+             {I32(d.eventCode), "WriteInt32 eventCode failed.", "ReadInt32 eventCode failed."},
+             {I32(d.stateCode), "WriteInt32 stateCode failed.", "ReadInt32 stateCode failed."},
+             {I32(d.percent), "WriteInt32 percent failed.", "ReadInt32 percent failed."},
+             {I32(d.speed), "WriteInt32 speed failed.", "ReadInt32 speed failed."},
+             {I32(d.isDisappeared), "WriteBool isDisappeared failed.", "ReadBool isDisappeared failed."},
+             {I32(d.deviceType), "WriteInt32 deviceType failed.", "ReadInt32 deviceType failed."},
+             {Str(d.deviceId), "WriteString deviceId failed.", "ReadString deviceId failed."},
+             {I32(d.nearbyVersion), "WriteInt32 nearbyVersion failed.", "ReadInt32 nearbyVersion failed."},
+             {I64(d.lastSharedTime), "WriteInt64 lastSharedTime failed.", "ReadInt64 lastSharedTime failed."},
+             {I32(d.isSameAccount), "WriteBool isSameAccount failed.", "ReadBool isSameAccount failed."},
+             {[contact](MessageParcel& p) {
+                  return p.WriteInt32(contact.contactKind) && p.WriteString(contact.contactName) &&
+                         p.WriteString(contact.contactPhoto);
+              },
+              "Write contactInfo failed.", "Read contactInfo failed."},
+             {I32(d.isOHDevice), "Write isOHDevice failed.", "Read isOHDevice failed."},
+             {I32(static_cast<int32_t>(d.deviceFounder)), "WriteInt32 deviceFounder failed.",
+              "ReadInt32 deviceFounder failed."},
+             {Str(d.concurentId), "WriteString concurentId failed.", "ReadString concurentId failed.", "ShareProxy"},
+             {I32(d.extraValue)}},
+            Writes(d),
+            ReadsBack(d)};
+}
+
+RecordCase AccountCase()
+{
+    ShareAccountInfo a = FilledAccount();
+    a.status = INT32_MIN;
+    // The last text ends on a word boundary: a reply cut inside its padding would still read.
+    a.avatar = "zzz";
+    return {"ShareAccountInfo",
+            {{Str(a.norvaneAccountID), "WriteString norvaneAccountID failed.", "ReadString norvaneAccountID failed."},
+             {Str(a.norvaneAccountIDHash), "WriteString norvaneAccountIDHash failed.",
+              "ReadString norvaneAccountIDHash failed."},
+             {I32(a.status), "WriteInt32 status failed.", "ReadInt32 status failed."},
+             {I32(a.callingUid), "WriteInt32 callingUid failed.", "ReadInt32 callingUid failed."},
+             {Str(a.nickName), "WriteString nickName failed.", "ReadString nickName failed."},
+             {Str(a.avatar), "WriteString avatar failed.", "ReadString avatar failed."}},
+            Writes(a),
+            ReadsBack(a)};
+}
+
+RecordCase ContactCase()
+{
+    ContactInfo c;
+    c.contactKind = INT32_MIN;
+    c.contactName = "\xe8\xae\xbe";
+    c.contactPhoto = "pqr";
+    return {
+        "ContactInfo", {{I32(c.contactKind)}, {Str(c.contactName)}, {Str(c.contactPhoto)}}, Writes(c), ReadsBack(c)};
+}
+
+RecordCase PermanentDeviceCase()
+{
+    return {"PermanentDeviceInfo",
+            {{I32(-5)}, {Str("Desk PC")}, {I32(12)}, {Str("udid-77")}, {I64(INT64_MAX)}},
+            nullptr,
+            [](MessageParcel& parcel) {
+                PermanentDeviceInfo d;
+                if (!d.ReadFromParcel(parcel)) {
+                    return Read::FAILED;
+                }
+                const bool same = d.id == -5 && d.deviceName == "Desk PC" && d.deviceType == 12 &&
+                                  d.deviceId == "udid-77" && d.timestamp == INT64_MAX;
+                return same ? Read::SAME : Read::DIFFERENT;
+            }};
+}
+
+RecordCase SendBeanCase()
+{
+    SendBean bean;
+    bean.previewText = "two files";
+    bean.files = {{"file://docs/a", "a", 10}, {"file://docs/b", "b", INT64_MAX}};
+    std::vector<Field> layout = {{Str(bean.previewText)}, {I32(2)}};
+    for (const FileItem& file : bean.files) {
+        layout.insert(layout.end(), {{Str(file.uri)}, {Str(file.name)}, {I64(file.size)}});
+    }
+    return {"SendBean", layout, Writes(bean), nullptr};
+}
+
+RecordCase BytesInfoCase()
+{
+    BytesInfo info;
+    info.mimeType = "text/plain";
+    info.bytes = std::string("a\0b", 3);
+    return {"BytesInfo", {{Str(info.mimeType)}, {Str(info.bytes)}}, Writes(info), nullptr};
+}
+
+RecordCase ShareDeviceCase()
+{
+    ShareDevice device;
+    device.deviceId = "udid";
+    device.deviceName = "Phone";
+    device.nbVersion_ = 8;
+    device.ohFlag_ = -1;
+    return {"ShareDevice", {{Str("udid")}, {Str("Phone")}, {I32(8)}, {I32(-1)}}, Writes(device), nullptr};
+}
+
+// The generic share object without items (the items carry descriptors: their own test); its texts are the
+// application side's.
+RecordCase CommonShareObjectCase()
+{
+    CommonShareObject object;
+    object.networkId = "net-7";
+    object.timeout = 30000;
+    object.type = 2;
+    object.resumable = true;
+    object.content = "hello";
+    return {"CommonShareObject",
+            {{Str("net-7"), "Write networkId failed."},
+             {I32(30000), "Write timeout failed."},
+             {I32(2), "Write type failed."},
+             {I32(1), "Write resumable failed."},
+             {I32(6), "Write big string failed."},
+             {[](MessageParcel& p) { return p.WriteRawData("hello", 6); }, "Write big string failed."},
+             {I32(0), "Write file size failed."}},
+            [object](MessageParcel& parcel) { return object.WriteToParcel(parcel); },
+            nullptr,
+            "ShareNapi"};
+}
+
+// gtest would otherwise print the raw bytes of the struct.
+void PrintTo(const RecordCase& record, std::ostream* out)
+{
+    *out << record.name;
+}
+
+class RecordLayoutTest : public testing::TestWithParam<RecordCase> {};
+
+TEST_P(RecordLayoutTest, WritesTheLayoutAndFailsWithTheFieldsTextWhereTheRoomEnds)
+{
+    const RecordCase& record = GetParam();
+    MessageParcel expected;
+    std::vector<size_t> offsets;
+    for (const Field& field : record.layout) {
+        offsets.push_back(expected.GetDataSize());
+        ASSERT_TRUE(field.write(expected));
+    }
+    if (!record.write) {
+        return;
+    }
+    MessageParcel actual;
+    ASSERT_TRUE(record.write(actual));
+    EXPECT_EQ(BytesOf(actual), BytesOf(expected));
+    for (size_t i = 0; i < record.layout.size(); ++i) {
+        SCOPED_TRACE("room ends at field " + std::to_string(i));
+        MessageParcel parcel;
+        FillLeaving(parcel, offsets[i]);
+        HiviewDFX::ScopedLogCapture log;
+        EXPECT_FALSE(record.write(parcel));
+        const char* text = record.layout[i].writeFailure;
+        EXPECT_EQ(log.Count(record.writeTag, "", LOG_ERROR), text == nullptr ? 0u : 1u);
+        EXPECT_TRUE(text == nullptr || log.Contains(record.writeTag, text));
+    }
+}
+
+TEST_P(RecordLayoutTest, ReadsTheLayoutBackAndRefusesItCutAtAnyByteNamingTheField)
+{
+    const RecordCase& record = GetParam();
+    if (!record.read) {
+        return;
+    }
+    MessageParcel whole;
+    std::vector<size_t> offsets;
+    for (const Field& field : record.layout) {
+        offsets.push_back(whole.GetDataSize());
+        ASSERT_TRUE(field.write(whole));
+    }
+    const std::vector<uint8_t> bytes = BytesOf(whole);
+    EXPECT_EQ(record.read(whole), Read::SAME);
+    EXPECT_EQ(whole.GetReadableBytes(), 0u);
+    for (size_t length = 0; length < bytes.size(); ++length) {
+        MessageParcel cut;
+        LoadBytes(cut, bytes, length);
+        EXPECT_EQ(record.read(cut), Read::FAILED) << "cut at byte " << length;
+    }
+    for (size_t i = 0; i < record.layout.size(); ++i) {
+        const Field& field = record.layout[i];
+        SCOPED_TRACE("cut at field " + std::to_string(i));
+        MessageParcel cut;
+        LoadBytes(cut, bytes, offsets[i]);
+        HiviewDFX::ScopedLogCapture log;
+        EXPECT_EQ(record.read(cut), Read::FAILED);
+        EXPECT_EQ(log.Lines().size(), field.readFailure == nullptr ? 0u : 1u);
+        EXPECT_TRUE(field.readFailure == nullptr || log.Count(field.readTag, field.readFailure, LOG_ERROR) == 1);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Records, RecordLayoutTest,
+                         testing::Values(DeviceCase(), AccountCase(), ContactCase(), PermanentDeviceCase(),
+                                         SendBeanCase(), BytesInfoCase(), ShareDeviceCase(), CommonShareObjectCase()),
+                         [](const testing::TestParamInfo<RecordCase>& info) { return std::string(info.param.name); });
+
+// A record of the application's own layout: WriteToParcel reaches it through the base.
+template <typename Record>
+bool WritesTheOverride()
+{
+    class Overridden : public Record {
+    public:
+        bool Marshalling(Parcel& parcel) const override { return parcel.WriteInt32(0x0DD); }
+    };
+    const Overridden record;
+    const Record& base = record;
+    MessageParcel parcel;
+    return base.WriteToParcel(parcel) && parcel.GetDataSize() == sizeof(int32_t) && parcel.ReadInt32() == 0x0DD;
+}
+
+TEST(RecordDispatchTest, WriteToParcelCallsTheDynamicTypesMarshalling)
+{
+    EXPECT_TRUE(WritesTheOverride<SendBean>());
+    EXPECT_TRUE(WritesTheOverride<DataBean>());
+    EXPECT_TRUE(WritesTheOverride<BytesInfo>());
+    EXPECT_TRUE(WritesTheOverride<ShareDevice>());
+    EXPECT_TRUE(WritesTheOverride<ContactInfo>());
+    EXPECT_TRUE(WritesTheOverride<ShareDeviceInfo>());
+    EXPECT_TRUE(WritesTheOverride<ShareAccountInfo>());
+}
+
+} // namespace
+} // namespace Zelkon
+} // namespace OHOS
