@@ -37,8 +37,6 @@ public:
             codes_.push_back(code);
             requestBytes_ = BytesOf(data);
             requestParcel_ = &data;
-            thread_ = std::this_thread::get_id();
-            onIpcThread_ = IpcThreads::IsIpcThread();
         }
         return handler_ ? handler_(code, data, reply) : ERR_NONE;
     }
@@ -58,16 +56,6 @@ public:
         std::lock_guard<std::mutex> lock(mutex_);
         return requestParcel_;
     }
-    std::thread::id Thread() const
-    {
-        std::lock_guard<std::mutex> lock(mutex_);
-        return thread_;
-    }
-    bool OnIpcThread() const
-    {
-        std::lock_guard<std::mutex> lock(mutex_);
-        return onIpcThread_;
-    }
 
 private:
     const Handler handler_;
@@ -75,8 +63,6 @@ private:
     std::vector<uint32_t> codes_;
     std::vector<uint8_t> requestBytes_;
     const MessageParcel* requestParcel_ = nullptr;
-    std::thread::id thread_;
-    bool onIpcThread_ = false;
 };
 
 class CountingRecipient : public IRemoteObject::DeathRecipient {

@@ -36,18 +36,6 @@ protected:
     sptr<IPCObjectProxy> remote_;
 };
 
-TEST_F(RemoteObjectTest, StubAnswersOnTheCallersThreadWithTheSameParcels)
-{
-    sptr<RecordingStub> stub = new RecordingStub();
-    EXPECT_FALSE(stub->IsProxyObject());
-    MessageParcel data;
-    MessageParcel reply;
-    MessageOption option;
-    EXPECT_EQ(stub->SendRequest(CODE, data, reply, option), ERR_NONE);
-    EXPECT_EQ(stub->Thread(), std::this_thread::get_id());
-    EXPECT_EQ(stub->RequestParcel(), &data);
-}
-
 TEST_F(RemoteObjectTest, RequestAndReplyCrossTheBoundaryIntact)
 {
     std::vector<uint8_t> replyBytes;
@@ -107,38 +95,6 @@ TEST_F(RemoteObjectTest, FailedRequestComesBackWithItsCodeAndAnEmptyReply)
     EXPECT_EQ(reply.GetDataSize(), 0u);
 }
 
-TEST_F(RemoteObjectTest, RequestAboveTheDefaultCapacityArrivesWhole)
-{
-    constexpr size_t size = 4 * 1024 * 1024;
-    Connect();
-    MessageParcel data;
-    ASSERT_TRUE(data.SetMaxCapacity(size));
-    std::vector<uint8_t> payload(size);
-    for (size_t i = 0; i < size; ++i) {
-        payload[i] = static_cast<uint8_t>(i % 251);
-    }
-    ASSERT_TRUE(data.WriteBuffer(payload.data(), payload.size()));
-    MessageParcel reply;
-    ASSERT_EQ(Send(data, reply), ERR_NONE);
-    EXPECT_EQ(stub_->RequestBytes(), payload);
-}
-
-TEST_F(RemoteObjectTest, BigRawDataIsSharedWithTheStub)
-{
-    const std::vector<uint8_t> payload(300000, 0x5a);
-    bool matched = false;
-    Connect([&](uint32_t, MessageParcel& data, MessageParcel&) {
-        const auto* read = static_cast<const uint8_t*>(data.ReadRawData(payload.size()));
-        matched = read != nullptr && std::equal(payload.begin(), payload.end(), read);
-        return ERR_NONE;
-    });
-    MessageParcel data;
-    ASSERT_TRUE(data.WriteRawData(payload.data(), payload.size()));
-    MessageParcel reply;
-    ASSERT_EQ(Send(data, reply), ERR_NONE);
-    EXPECT_TRUE(matched);
-}
-
 TEST_F(RemoteObjectTest, LocalObjectArrivesAsARemoteObjectThatForwardsToIt)
 {
     std::vector<sptr<IRemoteObject>> received;
@@ -167,51 +123,6 @@ TEST_F(RemoteObjectTest, LocalObjectArrivesAsARemoteObjectThatForwardsToIt)
     MessageOption option;
     EXPECT_EQ(received[0]->SendRequest(3, call, reply, option), ERR_NONE);
     EXPECT_EQ(listener->Codes(), std::vector<uint32_t>({3}));
-}
-
-TEST_F(RemoteObjectTest, RemoteObjectArrivesAsItself)
-{
-    sptr<IRemoteObject> received;
-    Connect([&received](uint32_t, MessageParcel& data, MessageParcel&) {
-        received = data.ReadRemoteObject();
-        return ERR_NONE;
-    });
-    sptr<IRemoteObject> other = new IPCObjectProxy(new RecordingStub());
-    MessageParcel data;
-    ASSERT_TRUE(data.WriteRemoteObject(other));
-    MessageParcel reply;
-    ASSERT_EQ(Send(data, reply), ERR_NONE);
-    EXPECT_EQ(received, other);
-}
-
-TEST_F(RemoteObjectTest, ObjectInTheReplyArrivesAsARemoteObject)
-{
-    sptr<RecordingStub> sender = new RecordingStub();
-    Connect([&sender](uint32_t, MessageParcel&, MessageParcel& reply) {
-        reply.WriteRemoteObject(sender);
-        return ERR_NONE;
-    });
-    MessageParcel data;
-    MessageParcel reply;
-    ASSERT_EQ(Send(data, reply), ERR_NONE);
-    sptr<IRemoteObject> received = reply.ReadRemoteObject();
-    ASSERT_NE(received, nullptr);
-    EXPECT_TRUE(received->IsProxyObject());
-    EXPECT_EQ(received, ProcessBoundary::Translate(sender));
-}
-
-TEST_F(RemoteObjectTest, OneWayRequestRunsLaterOnAnIpcThread)
-{
-    Connect();
-    MessageParcel data;
-    data.WriteInt32(5);
-    MessageParcel reply;
-    MessageOption option(MessageOption::TF_ASYNC);
-    ASSERT_EQ(remote_->SendRequest(CODE, data, reply, option), ERR_NONE);
-    IpcThreads::Drain();
-    EXPECT_EQ(stub_->Codes(), std::vector<uint32_t>({CODE}));
-    EXPECT_TRUE(stub_->OnIpcThread());
-    EXPECT_EQ(stub_->RequestBytes(), BytesOf(data));
 }
 
 TEST_F(RemoteObjectTest, DeadObjectRefusesRequestsAndTellsEachRecipientOnce)
@@ -254,17 +165,6 @@ TEST_F(RemoteObjectTest, RemovedRecipientIsNotTold)
     kept->WaitForCalls(1);
     IpcThreads::Drain();
     EXPECT_EQ(removed->Calls(), 0);
-}
-
-TEST_F(RemoteObjectTest, KilledForwarderIsReplacedForTheNextCrossing)
-{
-    sptr<RecordingStub> listener = new RecordingStub();
-    sptr<IRemoteObject> before = ProcessBoundary::Translate(listener);
-    EXPECT_EQ(ProcessBoundary::Translate(listener), before);
-    static_cast<IPCObjectProxy*>(before.GetRefPtr())->Kill();
-    sptr<IRemoteObject> after = ProcessBoundary::Translate(listener);
-    EXPECT_NE(after, before);
-    EXPECT_FALSE(after->IsObjectDead());
 }
 
 } // namespace

@@ -1,18 +1,14 @@
-// Races on the platform utilities: promotion against the last release and the first use of a singleton. Run under
+// Promotion racing the last release: the object is destroyed once and never handed out afterwards. Run under
 // ThreadSanitizer by its label.
 #include <gtest/gtest.h>
 
 #include <atomic>
 #include <condition_variable>
-#include <functional>
 #include <mutex>
-#include <set>
 #include <thread>
-#include <type_traits>
 #include <vector>
 
 #include "refbase.h"
-#include "singleton.h"
 #include "tracked_object.h"
 
 namespace OHOS {
@@ -43,22 +39,6 @@ private:
     int arrived_ = 0;
     int round_ = 0;
 };
-
-// Runs `work(index)` on `count` threads that all start together.
-void RunTogether(int count, const std::function<void(int)>& work)
-{
-    RoundGate start(count);
-    std::vector<std::thread> threads;
-    for (int i = 0; i < count; ++i) {
-        threads.emplace_back([&start, &work, i] {
-            start.ArriveAndWait();
-            work(i);
-        });
-    }
-    for (std::thread& thread : threads) {
-        thread.join();
-    }
-}
 
 TEST(PlatformUtilsConcurrencyTest, PromotionRacingTheLastReleaseNeverRevivesTheObject)
 {
@@ -114,37 +94,6 @@ TEST(PlatformUtilsConcurrencyTest, PromotionRacingTheLastReleaseNeverRevivesTheO
     EXPECT_EQ(badRounds, 0);
     EXPECT_EQ(deadSeen.load(), 0);
     EXPECT_EQ(revived.load(), 0);
-}
-
-std::atomic<int> g_registryConstructions{0};
-
-class Registry : public DelayedRefSingleton<Registry> {
-    DECLARE_DELAYED_REF_SINGLETON(Registry)
-};
-
-Registry::Registry()
-{
-    ++g_registryConstructions;
-}
-
-Registry::~Registry() = default;
-
-static_assert(!std::is_copy_constructible_v<Registry> && !std::is_move_constructible_v<Registry>);
-
-TEST(PlatformUtilsConcurrencyTest, TheFirstUsesOfASingletonFromManyThreadsShareOneInstance)
-{
-    constexpr int THREADS = 8;
-    std::mutex mutex;
-    std::set<const Registry*> instances;
-    RunTogether(THREADS, [&](int) {
-        const Registry* instance = &Registry::GetInstance();
-        std::lock_guard<std::mutex> lock(mutex);
-        instances.insert(instance);
-    });
-    EXPECT_EQ(instances.size(), 1u);
-    EXPECT_EQ(g_registryConstructions.load(), 1);
-    EXPECT_EQ(&Registry::GetInstance(), *instances.begin());
-    EXPECT_EQ(g_registryConstructions.load(), 1);
 }
 
 } // namespace
