@@ -98,12 +98,15 @@ void WriteRecordSeeds()
     WriteSeed("share_account_info_fuzzer", "filled", [](MessageParcel& p) { return FilledAccount().Marshalling(p); });
     WriteSeed("permanent_device_info_fuzzer", "basic",
               [](MessageParcel& p) { return WritePermanentDevice(p, 12, "Desk PC"); });
-    for (const char* fuzzer : {"big_string_fuzzer", "preview_data_fuzzer"}) {
-        WriteSeed(fuzzer, "empty", BigString(""));
-        WriteSeed(fuzzer, "short", BigString("ab"));
-        WriteSeed(fuzzer, "text", BigString(std::string(1000, 'p')));
-        WriteSeed(fuzzer, "inner_zero",
-                  [](MessageParcel& p) { return p.WriteUint32(6) && p.WriteRawData("ab\0cd", 6); });
+    // The preview is a reply: its seeds lead with the selector byte of its one operation.
+    for (int selector : {-1, 0}) {
+        const char* fuzzer = selector < 0 ? "big_string_fuzzer" : "preview_data_fuzzer";
+        WriteSeed(fuzzer, "empty", BigString(""), selector);
+        WriteSeed(fuzzer, "short", BigString("ab"), selector);
+        WriteSeed(fuzzer, "text", BigString(std::string(1000, 'p')), selector);
+        WriteSeed(
+            fuzzer, "inner_zero", [](MessageParcel& p) { return p.WriteUint32(6) && p.WriteRawData("ab\0cd", 6); },
+            selector);
     }
 }
 
@@ -116,14 +119,20 @@ void WriteReplySeeds()
     for (uint8_t op = 0; op < MANAGER_BOOL_OPERATIONS; ++op) {
         WriteSeed("share_manager_bool_reply_fuzzer", "op" + std::to_string(op), yes, op);
     }
-    WriteSeed("pontal_publish_info_fuzzer", "info",
-              [](MessageParcel& p) { return p.WriteString("pontal-info") && p.WriteBool(true); });
-    WriteSeed("pontal_publish_info_fuzzer", "empty",
-              [](MessageParcel& p) { return p.WriteString("") && p.WriteBool(false); });
-    WriteSeed("permanent_device_list_fuzzer", "two", [](MessageParcel& p) {
-        return p.WriteInt32(2) && WritePermanentDevice(p, 1, "Desk PC") && WritePermanentDevice(p, 2, "Laptop");
-    });
-    WriteSeed("permanent_device_list_fuzzer", "none", [](MessageParcel& p) { return p.WriteInt32(0); });
+    WriteSeed(
+        "pontal_publish_info_fuzzer", "info",
+        [](MessageParcel& p) { return p.WriteString("pontal-info") && p.WriteBool(true); }, 0);
+    WriteSeed(
+        "pontal_publish_info_fuzzer", "empty", [](MessageParcel& p) { return p.WriteString("") && p.WriteBool(false); },
+        0);
+    WriteSeed(
+        "permanent_device_list_fuzzer", "two",
+        [](MessageParcel& p) {
+            return p.WriteInt32(2) && WritePermanentDevice(p, 1, "Desk PC") && WritePermanentDevice(p, 2, "Laptop");
+        },
+        0);
+    WriteSeed(
+        "permanent_device_list_fuzzer", "none", [](MessageParcel& p) { return p.WriteInt32(0); }, 0);
     for (uint8_t op = 0; op < USER_LIST_OPERATIONS; ++op) {
         WriteSeed("user_list_reply_fuzzer", "two_op" + std::to_string(op), UserList(2), op);
         WriteSeed("user_list_reply_fuzzer", "none_op" + std::to_string(op), UserList(0), op);
@@ -131,7 +140,8 @@ void WriteReplySeeds()
     const Writer nothing = [](MessageParcel&) { return true; };
     WriteSeed("receiver_action_callback_fuzzer", "object", nothing, LEADING_OBJECT);
     WriteSeed("receiver_action_callback_fuzzer", "no_object", nothing, 0);
-    WriteSeed("account_info_reply_fuzzer", "filled", [](MessageParcel& p) { return FilledAccount().Marshalling(p); });
+    WriteSeed(
+        "account_info_reply_fuzzer", "filled", [](MessageParcel& p) { return FilledAccount().Marshalling(p); }, 0);
     for (uint8_t op = 0; op < SENDER_OPERATIONS; ++op) {
         WriteSeed("sender_reply_fuzzer", "op" + std::to_string(op), nothing, LEADING_OBJECT | op);
     }
