@@ -87,10 +87,13 @@ public:
 private:
     // Connect, then a copy of the proxy taken under the lock; null after logging the failure at the caller's site.
     sptr<ZelkonService> ConnectedProxy(const LogSite& site);
-    // The forwarding body that both clients share, over this client's connection.
+    // The forwarding body that both clients share, over this client's connection; without a refusal, nothing
+    // refuses the call before it connects (two overloads: clang rejects a default argument of an incomplete type).
+    template <typename Call>
+    std::invoke_result_t<Call, ZelkonService&> Forward(const LogSite& site, const ClientTexts& texts, Call&& call);
     template <typename Call>
     std::invoke_result_t<Call, ZelkonService&> Forward(const LogSite& site, const ClientTexts& texts, Call&& call,
-                                                       const Refusal& refusal = {});
+                                                       const Refusal& refusal);
 
     std::mutex mutex_;
     std::condition_variable proxyReady_;

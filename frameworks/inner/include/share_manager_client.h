@@ -85,10 +85,13 @@ public:
 private:
     // GetShareManagerSrvProxy, then the operation's no-proxy line at its site when there is none.
     sptr<IWidgetService> ConnectedProxy(const LogSite& site, const ClientTexts& texts);
-    // The forwarding body that both clients share, over this client's connection.
+    // The forwarding body that both clients share, over this client's connection; without a refusal, nothing
+    // refuses the call before it connects (two overloads: clang rejects a default argument of an incomplete type).
+    template <typename Call>
+    std::invoke_result_t<Call, IWidgetService&> Forward(const LogSite& site, const ClientTexts& texts, Call&& call);
     template <typename Call>
     std::invoke_result_t<Call, IWidgetService&> Forward(const LogSite& site, const ClientTexts& texts, Call&& call,
-                                                        const Refusal& refusal = {});
+                                                        const Refusal& refusal);
 
     sptr<IWidgetService> CopyProxy();
 

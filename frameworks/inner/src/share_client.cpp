@@ -154,6 +154,13 @@ std::invoke_result_t<Call, ZelkonService&> ShareClient::Forward(const LogSite& s
         SHARE_CLIENT_LABEL, site, texts, refusal, [this, &site] { return ConnectedProxy(site); }, call);
 }
 
+template <typename Call>
+std::invoke_result_t<Call, ZelkonService&> ShareClient::Forward(const LogSite& site, const ClientTexts& texts,
+                                                                Call&& call)
+{
+    return Forward(site, texts, std::forward<Call>(call), Refusal{});
+}
+
 namespace {
 // The listener operations refuse a null listener before they connect, without a line of their own.
 template <typename Listener>

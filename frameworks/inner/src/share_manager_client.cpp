@@ -99,6 +99,13 @@ std::invoke_result_t<Call, IWidgetService&> ShareManagerClient::Forward(const Lo
         call);
 }
 
+template <typename Call>
+std::invoke_result_t<Call, IWidgetService&> ShareManagerClient::Forward(const LogSite& site, const ClientTexts& texts,
+                                                                        Call&& call)
+{
+    return Forward(site, texts, std::forward<Call>(call), Refusal{});
+}
+
 bool ShareManagerClient::SetShareEnable(int32_t type, int32_t state, bool enable)
 {
     return Forward(SHARE_LOG_SITE, {"Enable Enter", "Enable Exit"},
