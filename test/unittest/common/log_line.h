@@ -17,29 +17,27 @@ namespace OHOS {
 namespace Zelkon {
 
 struct LogLine {
-    const char* tag;
+    std::string tag;
     LogLevel level;
-    // Null: the operation has no such line.
-    const char* text;
+    // Empty: the operation has no such line.
+    std::string text;
 };
 
 inline bool operator==(const LogLine& left, const LogLine& right)
 {
-    return std::string(left.tag) == right.tag && left.level == right.level &&
-           (left.text == nullptr ? right.text == nullptr
-                                 : right.text != nullptr && std::string(left.text) == right.text);
+    return left.tag == right.tag && left.level == right.level && left.text == right.text;
 }
 
 // How often the line was logged: its text follows the "[file:line] function# " prefix.
 inline size_t Logged(const HiviewDFX::ScopedLogCapture& log, const LogLine& line)
 {
-    return line.text == nullptr ? 0 : log.Count(line.tag, std::string("# ") + line.text, line.level);
+    return line.text.empty() ? 0 : log.Count(line.tag, "# " + line.text, line.level);
 }
 
 inline void ExpectLines(const HiviewDFX::ScopedLogCapture& log, const std::vector<LogLine>& lines)
 {
     for (const LogLine& line : lines) {
-        if (line.text != nullptr) {
+        if (!line.text.empty()) {
             const auto listed = static_cast<size_t>(std::count(lines.begin(), lines.end(), line));
             EXPECT_EQ(Logged(log, line), listed) << line.tag << ": " << line.text;
         }

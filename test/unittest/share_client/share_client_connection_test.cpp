@@ -83,7 +83,7 @@ TEST_F(ShareClientConnectionTest, DeathDropsTheProxyTellsTheCallbackOnceAndTheNe
     ConnectThenKill(callback);
     SamgrHostControl::Reset();
     EXPECT_EQ(callback->Count(), 1);
-    EXPECT_EQ(Logged(CLIENT_TAG, LOG_DEBUG, "Recv death notice"), 1u);
+    EXPECT_EQ(Logged({CLIENT_TAG, LOG_DEBUG, "Recv death notice"}), 1u);
     sptr<ScriptedStub> reloaded = new ScriptedStub(ZelkonService::GetDescriptor());
     RegisterShareService(reloaded);
     EXPECT_EQ(Client().EnableDiscoveryPolicy(2), 1);
@@ -125,7 +125,7 @@ TEST_F(ShareClientConnectionTest, ADeathNoticeForAnotherObjectOrAReleasedOneKeep
     }
     recipient->OnRemoteDied(released);
     EXPECT_EQ(callback->Count(), 1);
-    EXPECT_EQ(Logged(CLIENT_TAG, LOG_ERROR, "OnRemoteDied failed, remote is nullptr"), 1u);
+    EXPECT_EQ(Logged({CLIENT_TAG, LOG_ERROR, "OnRemoteDied failed, remote is nullptr"}), 1u);
     const int loads = Loads();
     EXPECT_EQ(Client().Connect(), 0);
     EXPECT_EQ(Loads(), loads);

@@ -44,13 +44,19 @@ struct Operation {
     Reply reply = Reply::BOOL;
 };
 
-std::vector<LogLine> Lines(LogLevel clientLevel, const char* clientEnter, const char* clientExit, LogLevel proxyLevel,
-                           const char* proxyEnter, const char* proxyExit)
+std::vector<LogLine> Lines(LogLevel clientLevel, const std::string& clientEnter, const std::string& clientExit,
+                           LogLevel proxyLevel, const std::string& proxyEnter, const std::string& proxyExit)
 {
     return {{CLIENT_TAG, clientLevel, clientEnter},
             {CLIENT_TAG, clientLevel, clientExit},
             {PROXY_TAG, proxyLevel, proxyEnter},
             {PROXY_TAG, D, proxyExit}};
+}
+
+// Client "NAME Enter" and "NAME Exit", proxy "NAME() Enter" and "NAME() Exit".
+std::vector<LogLine> Named(const std::string& name, LogLevel clientLevel = D, LogLevel proxyLevel = D)
+{
+    return Lines(clientLevel, name + " Enter", name + " Exit", proxyLevel, name + "() Enter", name + "() Exit");
 }
 
 sptr<ShareDevice> Device(int32_t ohFlag, int32_t nearbyVersion)
@@ -84,16 +90,8 @@ const std::vector<Operation>& Operations()
         return fields;
     };
     static const std::vector<Operation> operations = {
-        {"Publish",
-         1,
-         {Object()},
-         [](C& c) { return c.Publish(publish); },
-         Lines(D, "Publish Enter", "Publish Exit", D, "Publish() Enter", "Publish() Exit")},
-        {"UnPublish",
-         2,
-         {Word(41), Object()},
-         [](C& c) { return c.UnPublish(41, publish); },
-         Lines(D, "UnPublish Enter", "UnPublish Exit", D, "UnPublish() Enter", "UnPublish() Exit")},
+        {"Publish", 1, {Object()}, [](C& c) { return c.Publish(publish); }, Named("Publish")},
+        {"UnPublish", 2, {Word(41), Object()}, [](C& c) { return c.UnPublish(41, publish); }, Named("UnPublish")},
         {"Subscribe",
          3,
          {Object()},
@@ -108,8 +106,7 @@ const std::vector<Operation>& Operations()
          5,
          {Object()},
          [](C& c) { return c.RegisterReceiveListener(receive); },
-         Lines(D, "RegisterReceiveListener Enter", "RegisterReceiveListener Exit", D, "RegisterReceiveListener() Enter",
-               "RegisterReceiveListener() Exit")},
+         Named("RegisterReceiveListener")},
         {"UnRegisterReceiveListener",
          6,
          {Object()},
@@ -138,70 +135,62 @@ const std::vector<Operation>& Operations()
          10,
          {Text("peer-device-7"), Word(30000), Word(BYTES_INFO), Object(), Word(-3)},
          [](C& c) { return c.SendBytes(param, bytesInfo) != nullptr; },
-         Lines(D, "SendBytes Enter", "SendBytes Exit", D, "SendBytes() Enter", "SendBytes() Exit"),
+         Named("SendBytes"),
          Reply::SENDER},
         {"EnableDiscoveryPolicy",
          11,
          {Word(3)},
          [](C& c) { return c.EnableDiscoveryPolicy(3); },
-         Lines(D, "EnableDiscoveryPolicy Enter", "EnableDiscoveryPolicy Exit", D, "EnableDiscoveryPolicy() Enter",
-               "EnableDiscoveryPolicy() Exit")},
+         Named("EnableDiscoveryPolicy")},
         {"SetAccountPermission",
          12,
          {Word(-7)},
          [](C& c) { return c.SetAccountPermission(-7); },
-         Lines(D, "SetAccountPermission Enter", "SetAccountPermission Exit", D, "SetAccountPermission() Enter",
-               "SetAccountPermission() Exit")},
+         Named("SetAccountPermission")},
         {"Cancel",
          13,
          {Text("network-3")},
          [](C& c) { return c.Cancel("network-3"), 0; },
-         Lines(D, "Cancel start", nullptr, D, "Cancel start.", nullptr),
+         Lines(D, "Cancel start", "", D, "Cancel start.", ""),
          Reply::NONE},
         // The default share object: networkId, timeout, type, resumable, the big string's size word alone, no items.
         {"CommonShareSend",
          14,
          {Text(""), Word(0), Word(0), Word(0), Word(1), Word(0), Object()},
          [](C& c) { return c.CommonShareSend(shareObject, param.transCallback) != nullptr; },
-         Lines(D, "CommonShareSend start", nullptr, D, "CommonShareSend start.", nullptr),
+         Lines(D, "CommonShareSend start", "", D, "CommonShareSend start.", ""),
          Reply::SENDER},
         {"RegisterCommonReceiveListener",
          15,
          {Object()},
          [](C& c) { return c.RegisterCommonReceiveListener(common); },
-         Lines(D, "RegisterCommonReceiveListener Enter", "RegisterCommonReceiveListener Exit", D,
-               "RegisterCommonReceiveListener() Enter", "RegisterCommonReceiveListener() Exit")},
+         Named("RegisterCommonReceiveListener")},
         {"UnRegisterCommonReceiveListener",
          16,
          {},
          [](C& c) { return c.UnRegisterCommonReceiveListener(); },
-         Lines(D, "UnRegisterCommonReceiveListener Enter", "UnRegisterCommonReceiveListener Exit", D,
-               "UnRegisterCommonReceiveListener() Enter", "UnRegisterCommonReceiveListener() Exit")},
+         Named("UnRegisterCommonReceiveListener")},
         {"SuspendWifiScanning",
          17,
          {Text("wlan0")},
          [](C& c) { return c.SuspendWifiScanning("wlan0"); },
-         Lines(I, "SuspendWifiScanning Enter", "SuspendWifiScanning Exit", I, "SuspendWifiScanning() Enter",
-               "SuspendWifiScanning() Exit")},
+         Named("SuspendWifiScanning", I, I)},
         {"ResumeWifiScanning",
          18,
          {Text("p2p0")},
          [](C& c) { return c.ResumeWifiScanning("p2p0"); },
-         Lines(I, "ResumeWifiScanning Enter", "ResumeWifiScanning Exit", I, "ResumeWifiScanning() Enter",
-               "ResumeWifiScanning() Exit")},
+         Named("ResumeWifiScanning", I, I)},
         // The device's presence word, its marker, the listener, and the flag 0xFFFFFFFF as an int32 word.
         {"OnCollabDeviceFound",
          19,
          {Word(1), Word(DEVICE), Object(), Word(-1)},
          [](C& c) { return c.OnCollabDeviceFound(Device(1, 3), subscribe, 0xFFFFFFFFu); },
-         Lines(I, "OnCollabDeviceFound Enter", "OnCollabDeviceFound Exit", I, "OnCollabDeviceFound() Enter",
-               "OnCollabDeviceFound() Exit")},
+         Named("OnCollabDeviceFound", I, I)},
         {"ClearDiscovererFlag",
          20,
          {Text("peer-9"), Word(INT32_MIN + 1)},
          [](C& c) { return c.ClearDiscovererFlag("peer-9", 0x80000001u); },
-         Lines(I, "ClearDiscovererFlag Enter", "ClearDiscovererFlag Exit", I, "ClearDiscovererFlag() Enter",
-               "ClearDiscovererFlag() Exit")},
+         Named("ClearDiscovererFlag", I, I)},
         {"SwingSubscribe",
          22,
          {Object()},
@@ -230,8 +219,7 @@ const std::vector<Operation>& Operations()
          27,
          {Word(65570)},
          [](C& c) { return c.RemovePermanentDeviceById(65570); },
-         Lines(I, "RemovePermanentDeviceById Enter", "RemovePermanentDeviceById Exit", I,
-               "RemovePermanentDeviceById() Enter", "RemovePermanentDeviceById() Exit")},
+         Named("RemovePermanentDeviceById", I, I)},
     };
     return operations;
 }
@@ -290,7 +278,7 @@ TEST_F(ShareClientRequestTest, WithoutTheServiceEveryOperationGivesTheNeutralRes
                            {CLIENT_TAG, LOG_ERROR, "LoadSystemAbility failed."},
                            {CLIENT_TAG, LOG_ERROR, "Failed to load zelkon SA."},
                            {CLIENT_TAG, LOG_ERROR, "Get ShareService failed."}});
-        EXPECT_EQ(Logged(operation.lines[1].tag, operation.lines[1].level, operation.lines[1].text), 0u);
+        EXPECT_EQ(Logged(operation.lines[1]), 0u);
     }
     EXPECT_TRUE(stub_->Codes().empty());
 }
@@ -311,8 +299,7 @@ TEST_F(ShareClientRequestTest, AFailedRequestGivesTheNeutralResultWithoutTheProx
                                              {PROXY_TAG, LOG_ERROR, "SendRequest is failed, error code: -9"}};
         ExpectLines(log_, logged);
         const LogLine& exit = operation.lines[3];
-        EXPECT_EQ(Logged(exit.tag, exit.level, exit.text),
-                  static_cast<size_t>(std::count(logged.begin(), logged.end(), exit)));
+        EXPECT_EQ(Logged(exit), static_cast<size_t>(std::count(logged.begin(), logged.end(), exit)));
     }
 }
 
@@ -329,8 +316,7 @@ TEST_F(ShareClientRequestTest, PontalPublishInfoHandsOverTheStringWhateverTheFla
         std::string info = "before";
         EXPECT_EQ(Client().GetPontalPublishInfo(info), answer ? 1 : 0);
         EXPECT_EQ(info, "pontal-info");
-        ExpectLines(log_, Lines(I, "GetPontalPublishInfo Enter", "GetPontalPublishInfo Exit", I,
-                                "GetPontalPublishInfo() Enter", "GetPontalPublishInfo() Exit"));
+        ExpectLines(log_, Named("GetPontalPublishInfo", I, I));
     }
     stub_->SetHandler([](uint32_t, MessageParcel&, MessageParcel&) { return -9; });
     std::string info = "before";
@@ -433,7 +419,7 @@ TEST_F(ShareClientRequestTest, AFailedWriteSendsNothingAndNamesWhatFailed)
         log_.Clear();
         EXPECT_EQ(test.call(), 0);
         for (const char* text : test.texts) {
-            EXPECT_EQ(Logged(PROXY_TAG, LOG_ERROR, text), 1u) << text;
+            EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, text}), 1u) << text;
         }
     }
     EXPECT_TRUE(stub_->Codes().empty());
@@ -449,7 +435,7 @@ TEST_F(ShareClientRequestTest, CancelGoesOutEvenWhenTheNetworkIdCannotBeWritten)
     Client().Cancel(OVERSIZED);
     EXPECT_EQ(Received(13), 1u);
     EXPECT_TRUE(mismatches_.empty()) << testing::PrintToString(mismatches_);
-    EXPECT_EQ(Logged(PROXY_TAG, LOG_ERROR, "Write networkId failed."), 1u);
+    EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, "Write networkId failed."}), 1u);
 }
 
 TEST_F(ShareClientRequestTest, NullListenersAreRefusedBeforeAnyConnection)
@@ -463,11 +449,11 @@ TEST_F(ShareClientRequestTest, NullListenersAreRefusedBeforeAnyConnection)
         EXPECT_EQ(result, 0);
     }
     EXPECT_EQ(Loads(), loads);
-    EXPECT_EQ(Logged(CLIENT_TAG, LOG_ERROR, "listener is null."), 1u);
-    EXPECT_EQ(Logged(CLIENT_TAG, LOG_ERROR, "ISubscribeListener nullptr."), 1u);
+    EXPECT_EQ(Logged({CLIENT_TAG, LOG_ERROR, "listener is null."}), 1u);
+    EXPECT_EQ(Logged({CLIENT_TAG, LOG_ERROR, "ISubscribeListener nullptr."}), 1u);
     // The proxy refuses a null common listener itself.
     EXPECT_EQ(sptr<ShareSrvProxy>(new ShareSrvProxy(stub_))->RegisterCommonReceiveListener(nullptr), 0);
-    EXPECT_EQ(Logged(PROXY_TAG, LOG_ERROR, "listener return nullptr."), 1u);
+    EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, "listener return nullptr."}), 1u);
     EXPECT_TRUE(stub_->Codes().empty());
 }
 
@@ -491,9 +477,9 @@ TEST_F(ShareClientRequestTest, CollabDevicesOfOldNearbyVersionsAreNotReported)
         const size_t before = Received(19);
         EXPECT_EQ(Client().OnCollabDeviceFound(c.device, listener, 0), c.reported ? 1 : 0);
         EXPECT_EQ(Received(19), before + (c.reported ? 1 : 0));
-        EXPECT_EQ(Logged(CLIENT_TAG, I, "skip report for convert device failed or tirmo device nbver < 9"),
+        EXPECT_EQ(Logged({CLIENT_TAG, I, "skip report for convert device failed or tirmo device nbver < 9"}),
                   c.reported ? 0u : 1u);
-        EXPECT_EQ(Logged(CLIENT_TAG, I, "OnCollabDeviceFound Exit"), c.reported ? 1u : 0u);
+        EXPECT_EQ(Logged({CLIENT_TAG, I, "OnCollabDeviceFound Exit"}), c.reported ? 1u : 0u);
     }
 }
 

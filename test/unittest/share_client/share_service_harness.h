@@ -96,10 +96,7 @@ protected:
         return static_cast<size_t>(std::count(codes.begin(), codes.end(), code));
     }
 
-    size_t Logged(const char* tag, LogLevel level, const char* text) const
-    {
-        return Zelkon::Logged(log_, {tag, level, text});
-    }
+    size_t Logged(const LogLine& line) const { return Zelkon::Logged(log_, line); }
 
     sptr<ScriptedStub> stub_;
     HiviewDFX::ScopedLogCapture log_;

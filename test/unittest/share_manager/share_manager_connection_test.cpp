@@ -62,7 +62,7 @@ TEST_F(ShareManagerConnectionTest, AMissingProxyCreatorConnectsButHandsOutNull)
     EXPECT_EQ(Client().GetShareManagerSrvProxy(), nullptr);
     EXPECT_FALSE(Client().IsEnabled());
     EXPECT_FALSE(Client().ApplyUriPermission("com.example"));
-    EXPECT_EQ(Logged(CLIENT_TAG, LOG_ERROR, "shareManagerSrvProxy_ is nullptr"), 2u);
+    EXPECT_EQ(Logged({CLIENT_TAG, LOG_ERROR, "shareManagerSrvProxy_ is nullptr"}), 2u);
     BrokerRegistration::Get().Register(IWidgetService::GetDescriptor(), BrokerCreator<ShareManagerSrvProxy>(), nullptr);
     EXPECT_TRUE(Client().IsEnabled());
 }
@@ -74,7 +74,7 @@ TEST_F(ShareManagerConnectionTest, DeathDropsTheProxyTellsTheCallerAndReconnectW
     ASSERT_TRUE(Client().IsEnabled());
     KillAndWait(callback, 1);
     EXPECT_FALSE(Client().IsEnabled());
-    EXPECT_EQ(Logged(CLIENT_TAG, LOG_DEBUG, "Recv death notice"), 1u);
+    EXPECT_EQ(Logged({CLIENT_TAG, LOG_DEBUG, "Recv death notice"}), 1u);
 
     stub_ = StartService();
     ASSERT_TRUE(Client().IsEnabled());

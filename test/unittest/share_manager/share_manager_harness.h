@@ -58,10 +58,7 @@ protected:
 
     static ShareManagerClient& Client() { return ShareManagerClient::GetInstance(); }
 
-    size_t Logged(const char* tag, LogLevel level, const char* text) const
-    {
-        return Zelkon::Logged(log_, {tag, level, text});
-    }
+    size_t Logged(const LogLine& line) const { return Zelkon::Logged(log_, line); }
 
     sptr<ScriptedStub> stub_;
     HiviewDFX::ScopedLogCapture log_;

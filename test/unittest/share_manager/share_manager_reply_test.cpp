@@ -89,8 +89,8 @@ TEST_F(ShareManagerReplyTest, ListsOfUpToAThousandRecordsAreReadWhole)
         ExpectLines(log_, {{CLIENT_TAG, LOG_DEBUG, (name + " Enter").c_str()},
                            {PROXY_TAG, LOG_DEBUG, (name + " Enter").c_str()},
                            {CLIENT_TAG, LOG_DEBUG, (name + " Exit size 1000").c_str()}});
-        EXPECT_EQ(Logged(PROXY_TAG, LOG_DEBUG,
-                         name == "GetAllUserList" ? "GetAllUserList Exit size 1000" : "GetSendingUserList Exit"),
+        EXPECT_EQ(Logged({PROXY_TAG, LOG_DEBUG,
+                          name == "GetAllUserList" ? "GetAllUserList Exit size 1000" : "GetSendingUserList Exit"}),
                   1u);
     }
 }
@@ -116,21 +116,20 @@ TEST_F(ShareManagerReplyTest, BadCountsAndRecordsGiveAnEmptyListWithTheOperation
             log_.Clear();
             EXPECT_TRUE((Client().*list.get)().empty());
             const std::string error = std::string(list.prefix) + (reply.error == nullptr ? "" : reply.error);
-            EXPECT_EQ(Logged(PROXY_TAG, LOG_ERROR, error.c_str()), reply.error == nullptr ? 0u : 1u);
-            EXPECT_EQ(Logged(list.proxyExit.tag, list.proxyExit.level, list.proxyExit.text),
-                      reply.error == nullptr ? 1u : 0u);
+            EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, error.c_str()}), reply.error == nullptr ? 0u : 1u);
+            EXPECT_EQ(Logged(list.proxyExit), reply.error == nullptr ? 1u : 0u);
         }
         // A reply without the count, as a failed request leaves it.
         stub_->SetHandler([](uint32_t, MessageParcel&, MessageParcel&) { return -9; });
         log_.Clear();
         EXPECT_TRUE((Client().*list.get)().empty());
         const std::string failed = std::string(list.prefix) + "SendRequest is failed, error code: -9";
-        EXPECT_EQ(Logged(PROXY_TAG, LOG_ERROR, failed.c_str()), 1u);
+        EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, failed.c_str()}), 1u);
         Answer([](MessageParcel&) {});
         log_.Clear();
         EXPECT_TRUE((Client().*list.get)().empty());
         const std::string noCount = std::string(list.prefix) + "Read device counter failed 0 .";
-        EXPECT_EQ(Logged(PROXY_TAG, LOG_ERROR, noCount.c_str()), 1u);
+        EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, noCount.c_str()}), 1u);
     }
 }
 
@@ -155,8 +154,8 @@ TEST_F(ShareManagerReplyTest, TheReceiverIsTypedWhenACreatorIsRegisteredAndNullO
         }
         log_.Clear();
         EXPECT_EQ(Client().GetReceiverActionCallback(), nullptr);
-        EXPECT_EQ(Logged(PROXY_TAG, LOG_ERROR, "Read remote object error."), 1u);
-        EXPECT_EQ(Logged(PROXY_TAG, LOG_DEBUG, "GetReceiverActionCallback() Exit"), 0u);
+        EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, "Read remote object error."}), 1u);
+        EXPECT_EQ(Logged({PROXY_TAG, LOG_DEBUG, "GetReceiverActionCallback() Exit"}), 0u);
     }
 }
 
@@ -175,8 +174,8 @@ TEST_F(ShareManagerReplyTest, PreviewDataIsTheBigStringOrEmptyWithTheReadersLine
     Answer([](MessageParcel& reply) { reply.WriteUint32(0x500001); });
     log_.Clear();
     EXPECT_EQ(Client().GetPreviewData(), "");
-    EXPECT_EQ(Logged(SERVICE_TAG, LOG_ERROR, "Read big string failed ."), 1u);
-    EXPECT_EQ(Logged(PROXY_TAG, LOG_DEBUG, "GetPreviewData() Exit"), 0u);
+    EXPECT_EQ(Logged({SERVICE_TAG, LOG_ERROR, "Read big string failed ."}), 1u);
+    EXPECT_EQ(Logged({PROXY_TAG, LOG_DEBUG, "GetPreviewData() Exit"}), 0u);
 }
 
 TEST_F(ShareManagerReplyTest, TheAccountIsReadWholeOrAsFarAsItGoes)
@@ -201,8 +200,8 @@ TEST_F(ShareManagerReplyTest, TheAccountIsReadWholeOrAsFarAsItGoes)
     EXPECT_EQ(partial.norvaneAccountID, "account-2");
     EXPECT_EQ(partial.callingUid, 20020);
     EXPECT_EQ(partial.nickName, "");
-    EXPECT_EQ(Logged(PROXY_TAG, LOG_ERROR, "Read share accout failed."), 1u);
-    EXPECT_EQ(Logged(PROXY_TAG, LOG_DEBUG, "GetAccountInfo() Exit"), 0u);
+    EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, "Read share accout failed."}), 1u);
+    EXPECT_EQ(Logged({PROXY_TAG, LOG_DEBUG, "GetAccountInfo() Exit"}), 0u);
 }
 
 TEST_F(ShareManagerReplyTest, WithoutTheServiceTheRepliesAreNeutralAndSayWhy)
@@ -217,7 +216,7 @@ TEST_F(ShareManagerReplyTest, WithoutTheServiceTheRepliesAreNeutralAndSayWhy)
     EXPECT_EQ(Client().GetReceiverActionCallback(), nullptr);
     EXPECT_EQ(Client().GetPreviewData(), "");
     EXPECT_EQ(Client().GetAccountInfo().callingUid, ShareAccountInfo().callingUid);
-    EXPECT_EQ(Logged(CLIENT_TAG, LOG_ERROR, "shareManagerSrvProxy_ is nullptr"), 4u);
+    EXPECT_EQ(Logged({CLIENT_TAG, LOG_ERROR, "shareManagerSrvProxy_ is nullptr"}), 4u);
 }
 
 TEST_F(ShareManagerReplyTest, NullCallbacksAreRefusedBeforeAnythingIsSentExceptOne)
@@ -235,13 +234,13 @@ TEST_F(ShareManagerReplyTest, NullCallbacksAreRefusedBeforeAnythingIsSentExceptO
     for (const auto& call : calls) {
         log_.Clear();
         EXPECT_FALSE(call(Client()));
-        EXPECT_EQ(Logged(PROXY_TAG, LOG_ERROR, "The parameter callback is nullptr."), 1u);
+        EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, "The parameter callback is nullptr."}), 1u);
         EXPECT_EQ(log_.Count(PROXY_TAG, "Enter"), 0u);
     }
     log_.Clear();
     EXPECT_FALSE(Client().UnregisterShareApiCallback(nullptr));
-    EXPECT_EQ(Logged(PROXY_TAG, LOG_ERROR, "The parameter callback is nullptr."), 0u);
-    EXPECT_EQ(Logged(PROXY_TAG, LOG_ERROR, "Write RemoteObject failed"), 1u);
+    EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, "The parameter callback is nullptr."}), 0u);
+    EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, "Write RemoteObject failed"}), 1u);
     EXPECT_TRUE(stub_->Codes().empty());
 }
 
@@ -273,7 +272,7 @@ TEST_F(ShareManagerReplyTest, UnwritableRecordsFailWithTheirTextsWithoutSending)
         SCOPED_TRACE(text);
         log_.Clear();
         EXPECT_FALSE(call());
-        EXPECT_EQ(Logged(PROXY_TAG, LOG_ERROR, text), 1u);
+        EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, text}), 1u);
     }
     EXPECT_TRUE(stub_->Codes().empty());
 }

@@ -35,11 +35,11 @@ struct Operation {
     // Client enter, client exit, proxy enter, proxy exit.
     std::vector<LogLine> lines;
     // What the client logs when it has no proxy; null when the connection failure is all it says.
-    const char* noProxy = NO_PROXY;
+    std::string noProxy = NO_PROXY;
 };
 
-std::vector<LogLine> Lines(LogLevel clientLevel, const char* clientEnter, const char* clientExit, LogLevel proxyLevel,
-                           const char* proxyEnter, const char* proxyExit)
+std::vector<LogLine> Lines(LogLevel clientLevel, const std::string& clientEnter, const std::string& clientExit,
+                           LogLevel proxyLevel, const std::string& proxyEnter, const std::string& proxyExit)
 {
     return {{CLIENT_TAG, clientLevel, clientEnter},
             {CLIENT_TAG, clientLevel, clientExit},
@@ -47,10 +47,17 @@ std::vector<LogLine> Lines(LogLevel clientLevel, const char* clientEnter, const 
             {PROXY_TAG, proxyLevel, proxyExit}};
 }
 
-// The share API requests log the bare words at info level on the proxy's side.
-std::vector<LogLine> BareLines(const char* clientEnter, const char* clientExit)
+// Client "NAME Enter" and "NAME Exit", proxy "NAME() Enter" and "NAME() Exit".
+std::vector<LogLine> Named(const std::string& name, LogLevel clientLevel = D)
 {
-    return Lines(D, clientEnter, clientExit, I, "Enter", "Exit");
+    return Lines(clientLevel, name + " Enter", name + " Exit", D, name + "() Enter", name + "() Exit");
+}
+
+// The share API requests log the bare words at info level on the proxy's side.
+std::vector<LogLine> BareLines(const std::string& clientName)
+{
+    const std::string prefix = clientName.empty() ? "" : clientName + " ";
+    return Lines(D, prefix + "Enter", prefix + "Exit", I, "Enter", "Exit");
 }
 
 const std::vector<Operation>& Operations()
@@ -67,167 +74,132 @@ const std::vector<Operation>& Operations()
          1,
          {Word(-7), Word(8), Word(1)},
          [](C& c) { return c.SetShareEnable(-7, 8, true); },
-         Lines(D, "Enable Enter", "Enable Exit", D, "Enable() Enter", "Enable() Exit")},
+         Named("Enable")},
         {"SetShareEnableWithConfirm",
          2,
          {Word(5), Word(-6), Word(0), Word(1)},
          [](C& c) { return c.SetShareEnableWithConfirm(5, -6, false, true); },
-         Lines(D, "EnableWithConfirm Enter", "EnableWithConfirm Exit", D, "EnableWithConfirm() Enter",
-               "EnableWithConfirm() Exit")},
-        {"IsEnabled",
-         3,
-         {},
-         [](C& c) { return c.IsEnabled(); },
-         Lines(D, "IsEnabled Enter", "IsEnabled Exit", D, "IsEnabled() Enter", "IsEnabled() Exit")},
+         Named("EnableWithConfirm")},
+        {"IsEnabled", 3, {}, [](C& c) { return c.IsEnabled(); }, Named("IsEnabled")},
         // The answer word read as the state.
-        {"GetEnableState",
-         4,
-         {},
-         [](C& c) { return c.GetEnableState() == 1; },
-         Lines(D, "GetEnableState Enter", "GetEnableState Exit", D, "GetEnableState() Enter", "GetEnableState() Exit")},
+        {"GetEnableState", 4, {}, [](C& c) { return c.GetEnableState() == 1; }, Named("GetEnableState")},
         {"RegisterWidgetCallback",
          5,
          {Object()},
          [](C& c) { return c.RegisterWidgetCallback(widget); },
-         Lines(D, "RegisterWidgetCallback Enter", "RegisterWidgetCallback Exit", D, "RegisterWidgetCallback() Enter",
-               "RegisterWidgetCallback() Exit")},
+         Named("RegisterWidgetCallback")},
         {"UnRegisterWidgetCallback",
          6,
          {Object()},
          [](C& c) { return c.UnRegisterWidgetCallback(widget); },
-         Lines(D, "UnRegisterWidgetCallback Enter", "UnRegisterWidgetCallback Exit", D,
-               "UnRegisterWidgetCallback() Enter", "UnRegisterWidgetCallback() Exit")},
-        {"StartDiscovery",
-         7,
-         {},
-         [](C& c) { return c.StartDiscovery(); },
-         Lines(D, "StartDiscovery Enter", "StartDiscovery Exit", D, "StartDiscovery() Enter", "StartDiscovery() Exit")},
-        {"StopDiscovery",
-         8,
-         {},
-         [](C& c) { return c.StopDiscovery(); },
-         Lines(D, "StopDiscovery Enter", "StopDiscovery Exit", D, "StopDiscovery() Enter", "StopDiscovery() Exit")},
+         Named("UnRegisterWidgetCallback")},
+        {"StartDiscovery", 7, {}, [](C& c) { return c.StartDiscovery(); }, Named("StartDiscovery")},
+        {"StopDiscovery", 8, {}, [](C& c) { return c.StopDiscovery(); }, Named("StopDiscovery")},
         {"StartConnect",
          9,
          {},
          [](C& c) { return c.StartConnect(); },
-         Lines(D, "StartConnect Enter", "StartConnect Exit", D, "StartConnect() Enter", "StartConnect() Exit"),
+         Named("StartConnect"),
          "StartConnect shareManagerSrvProxy_ is nullptr"},
         {"StopConnect",
          10,
          {},
          [](C& c) { return c.StopConnect(); },
-         Lines(D, "StopConnect Enter", "StopConnect Exit", D, "StopConnect() Enter", "StopConnect() Exit"),
+         Named("StopConnect"),
          "StopConnect shareManagerSrvProxy_ is nullptr"},
-        {"PrepareSend",
-         12,
-         {Word(DEVICE)},
-         [](C& c) { return c.PrepareSend(device); },
-         Lines(D, "PrepareSend Enter", "PrepareSend Exit", D, "PrepareSend() Enter", "PrepareSend() Exit")},
+        {"PrepareSend", 12, {Word(DEVICE)}, [](C& c) { return c.PrepareSend(device); }, Named("PrepareSend")},
         {"Send",
          13,
          {Word(DEVICE), Word(SEND_BEAN), Text("com.example.app")},
          [](C& c) { return c.Send(device, sendBean, "com.example.app"); },
-         Lines(D, "Send Enter", "Send Exit", D, "Send() Enter", "Send() Exit")},
+         Named("Send")},
         {"SendBytes",
          14,
          {Word(DEVICE), Word(BYTES_INFO)},
          [](C& c) { return c.SendBytes(device, bytesInfo); },
-         Lines(D, "SendBytes Enter", "SendBytes Exit", D, "SendBytes() Enter", "SendBytes() Exit")},
+         Named("SendBytes")},
         {"SendFile",
          15,
          {Word(DEVICE), Word(DATA_BEAN), Text("com.example.files")},
          [](C& c) { return c.SendFile(device, dataBean, "com.example.files"); },
-         Lines(D, "SendFile Enter", "SendFile Exit", D, "SendFile() Enter", "SendFile() Exit")},
-        {"Cancel",
-         16,
-         {Word(DEVICE)},
-         [](C& c) { return c.Cancel(device); },
-         Lines(D, "Cancel Enter", "Cancel Exit", D, "Cancel() Enter", "Cancel() Exit")},
+         Named("SendFile")},
+        {"Cancel", 16, {Word(DEVICE)}, [](C& c) { return c.Cancel(device); }, Named("Cancel")},
         {"RegisterSenderActionCallback",
          17,
          {Object()},
          [](C& c) { return c.RegisterSenderActionCallback(sender); },
-         Lines(D, "RegisterSenderActionCallback Enter", "RegisterSenderActionCallback Exit", D,
-               "RegisterSenderActionCallback() Enter", "RegisterSenderActionCallback() Exit")},
+         Named("RegisterSenderActionCallback")},
         {"UnRegisterSenderActionCallback",
          18,
          {Object()},
          [](C& c) { return c.UnRegisterSenderActionCallback(sender); },
-         Lines(D, "UnRegisterSenderActionCallback Enter", "UnRegisterSenderActionCallback Exit", D,
-               "UnRegisterSenderActionCallback() Enter", "UnRegisterSenderActionCallback() Exit")},
+         Named("UnRegisterSenderActionCallback")},
         {"SetShareAccountPermission",
          23,
          {Word(-2)},
          [](C& c) { return c.SetShareAccountPermission(-2); },
-         Lines(D, "SetShareAccountPermission Enter", "SetShareAccountPermission Exit", D,
-               "SetShareAccountPermission() Enter", "SetShareAccountPermission() Exit")},
+         Named("SetShareAccountPermission")},
         {"RegisterVxShareApiWidgetCallback",
          24,
          {Object()},
          [](C& c) { return c.RegisterVxShareApiWidgetCallback(widget); },
-         BareLines("Enter", "Exit")},
+         BareLines("")},
         {"UnRegisterVxShareApiWidgetCallback",
          25,
          {Object()},
          [](C& c) { return c.UnRegisterVxShareApiWidgetCallback(widget); },
-         BareLines("Enter", "Exit")},
+         BareLines("")},
         {"RegisterVxShareApiEvent",
          26,
          {Text("vx.open")},
          [](C& c) { return c.RegisterVxShareApiEvent("vx.open"); },
-         BareLines("Enter", "Exit")},
+         BareLines("")},
         {"UnRegisterVxShareApiEvent",
          27,
          {Text("vx.close")},
          [](C& c) { return c.UnRegisterVxShareApiEvent("vx.close"); },
-         BareLines("Enter", "Exit")},
+         BareLines("")},
         {"NotifyInfo",
          28,
          {Word(DEVICE), Word(99)},
          [](C& c) { return c.NotifyInfo(device, 99); },
-         Lines(D, "NotifyInfo Enter", "NotifyInfo Exit", D, "NotifyInfo() Enter", "NotifyInfo() Exit")},
+         Named("NotifyInfo")},
         {"ApplyUriPermission",
          29,
          {Text("com.example.uri")},
          [](C& c) { return c.ApplyUriPermission("com.example.uri"); },
-         Lines(D, "ApplyUriPermission Enter", "ApplyUriPermission Exit", D, "ApplyUriPermission() Enter",
-               "ApplyUriPermission() Exit"),
-         nullptr},
+         Named("ApplyUriPermission"),
+         ""},
         {"SwingConfirm",
          30,
          {Word(DEVICE), Word(-1)},
          [](C& c) { return c.SwingConfirm(device, -1); },
-         {{CLIENT_TAG, I, "SwingConfirm Enter"},
-          {CLIENT_TAG, I, "SwingConfirm Exit"},
-          {PROXY_TAG, D, "SwingConfirm() Enter"},
-          {PROXY_TAG, D, "SwingConfirm() Exit"}}},
+         Named("SwingConfirm", I)},
         {"IsAppForeground",
          31,
          {Text("com.example.fg")},
          [](C& c) { return c.IsAppForeground("com.example.fg"); },
-         Lines(D, "IsAppForeground Enter", "IsAppForeground Exit", D, "IsAppForeground() Enter",
-               "IsAppForeground() Exit")},
+         Named("IsAppForeground")},
         {"RegisterShareApiCallback",
          32,
          {Object()},
          [](C& c) { return c.RegisterShareApiCallback(api); },
-         BareLines("RegisterShareApiCallback Enter", "RegisterShareApiCallback Exit")},
+         BareLines("RegisterShareApiCallback")},
         {"UnregisterShareApiCallback",
          33,
          {Object()},
          [](C& c) { return c.UnregisterShareApiCallback(api); },
-         BareLines("UnregisterShareApiCallback Enter", "UnregisterShareApiCallback Exit")},
+         BareLines("UnregisterShareApiCallback")},
         {"RegisterShareEventCallback",
          34,
          {Word(3), Word(-4)},
          [](C& c) { return c.RegisterShareEventCallback(3, -4); },
-         BareLines("RegisterShareEventCallback Enter", "RegisterShareEventCallback Exit")},
+         BareLines("RegisterShareEventCallback")},
         {"UnregisterShareEventCallback",
          35,
          {Word(-5), Word(6)},
          [](C& c) { return c.UnregisterShareEventCallback(-5, 6); },
-         BareLines("UnregisterShareEventCallback Enter", "UnregisterShareEventCallback Exit")},
+         BareLines("UnregisterShareEventCallback")},
     };
     return operations;
 }
@@ -291,8 +263,8 @@ TEST_F(ShareManagerRequestTest, WithoutTheServiceEveryOperationGivesTheNeutralRe
                            {CLIENT_TAG, LOG_ERROR, "CheckSystemAbility failed"},
                            {CLIENT_TAG, LOG_ERROR, "Get ShareWidgetService failed."},
                            {CLIENT_TAG, LOG_ERROR, operation.noProxy}});
-        EXPECT_EQ(ErrorLines(log_, CLIENT_TAG), operation.noProxy == nullptr ? 2u : 3u);
-        EXPECT_EQ(Logged(CLIENT_TAG, operation.lines[1].level, operation.lines[1].text), 0u);
+        EXPECT_EQ(ErrorLines(log_, CLIENT_TAG), operation.noProxy.empty() ? 2u : 3u);
+        EXPECT_EQ(Logged(operation.lines[1]), 0u);
     }
     EXPECT_EQ(SamgrHostControl::LookupCount(SHARE_MANAGER_SA_ID), static_cast<int>(Operations().size()) + 1);
     // Started later, the service is found by the next call.
@@ -314,7 +286,7 @@ TEST_F(ShareManagerRequestTest, AFailedRequestGivesTheNeutralResultWithoutThePro
                            operation.lines[1],
                            operation.lines[2],
                            {PROXY_TAG, LOG_ERROR, "SendRequest is failed, error code: -3"}});
-        EXPECT_EQ(Logged(PROXY_TAG, operation.lines[3].level, operation.lines[3].text), 0u);
+        EXPECT_EQ(Logged(operation.lines[3]), 0u);
     }
 }
 
@@ -330,7 +302,7 @@ TEST_F(ShareManagerRequestTest, EnableStateIsTheRepliedIntegerAndTheSwingFocusLo
         });
         log_.Clear();
         EXPECT_EQ(Client().IsFocusPidsRegisterSwing(), answer);
-        EXPECT_EQ(Logged(CLIENT_TAG, I, answer ? "IsFocusPidsRegisterSwing 1" : "IsFocusPidsRegisterSwing 0"), 1u);
+        EXPECT_EQ(Logged({CLIENT_TAG, I, answer ? "IsFocusPidsRegisterSwing 1" : "IsFocusPidsRegisterSwing 0"}), 1u);
         EXPECT_EQ(log_.Count(CLIENT_TAG, "Enter") + log_.Count(PROXY_TAG, "Enter"), 0u);
         EXPECT_EQ(log_.Count(CLIENT_TAG, "Exit") + log_.Count(PROXY_TAG, "Exit"), 0u);
     }
