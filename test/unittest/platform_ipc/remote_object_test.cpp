@@ -152,20 +152,5 @@ TEST_F(RemoteObjectTest, DeadObjectRefusesRequestsAndTellsEachRecipientOnce)
     EXPECT_TRUE(stub_->Codes().empty());
 }
 
-TEST_F(RemoteObjectTest, RemovedRecipientIsNotTold)
-{
-    Connect();
-    sptr<CountingRecipient> removed = new CountingRecipient();
-    sptr<CountingRecipient> kept = new CountingRecipient();
-    ASSERT_TRUE(remote_->AddDeathRecipient(removed));
-    ASSERT_TRUE(remote_->AddDeathRecipient(kept));
-    EXPECT_TRUE(remote_->RemoveDeathRecipient(removed));
-    EXPECT_FALSE(remote_->RemoveDeathRecipient(removed));
-    remote_->Kill();
-    kept->WaitForCalls(1);
-    IpcThreads::Drain();
-    EXPECT_EQ(removed->Calls(), 0);
-}
-
 } // namespace
 } // namespace OHOS

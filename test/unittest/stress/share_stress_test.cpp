@@ -127,33 +127,25 @@ private:
     std::thread thread_;
 };
 
-// The died callbacks of both clients, changed by the killer between deaths in a cycle: registered, kept,
-// replaced, cleared, and registered then released by their owner. Each callback that is still owned counts the
-// deaths it must have been told of.
+// The died callbacks of both clients, changed by the killer between deaths in a cycle of five rounds: registered,
+// kept, replaced, cleared, and registered then released by their owner. Each callback that is still owned counts
+// the deaths it must have been told of.
 class DiedCallbacks {
 public:
     void Change(int round)
     {
-        switch (round % CYCLE) {
-        case 0:
-        case 2:
-            kept_.push_back(
-                {std::make_shared<CountingShareDiedCallback>(), std::make_shared<CountingManagerDiedCallback>(), 0});
-            Register(kept_.back());
+        const int step = round % CYCLE;
+        if (step == 1) {
+            return;
+        }
+        auto share = std::make_shared<CountingShareDiedCallback>();
+        auto manager = std::make_shared<CountingManagerDiedCallback>();
+        Share().RegisterDiedCallback(step == CLEAR ? nullptr : share);
+        Manager().RegisterDiedCallback(step == CLEAR ? nullptr : manager);
+        registered_ = NONE;
+        if (step != CLEAR && step != RELEASE) {
+            kept_.push_back({share, manager, 0});
             registered_ = static_cast<int>(kept_.size()) - 1;
-            break;
-        case 3:
-            Share().RegisterDiedCallback(nullptr);
-            Manager().RegisterDiedCallback(nullptr);
-            registered_ = NONE;
-            break;
-        case 4:
-            Register(
-                {std::make_shared<CountingShareDiedCallback>(), std::make_shared<CountingManagerDiedCallback>(), 0});
-            registered_ = NONE;
-            break;
-        default:
-            break;
         }
     }
     // Both services died once while both clients were connected to them.
@@ -172,21 +164,17 @@ public:
     }
 
 private:
-    struct Pair {
+    struct Kept {
         std::shared_ptr<CountingShareDiedCallback> share;
         std::shared_ptr<CountingManagerDiedCallback> manager;
         int expectedCalls;
     };
     static constexpr int CYCLE = 5;
+    static constexpr int CLEAR = 3;
+    static constexpr int RELEASE = 4;
     static constexpr int NONE = -1;
 
-    static void Register(const Pair& pair)
-    {
-        Share().RegisterDiedCallback(pair.share);
-        Manager().RegisterDiedCallback(pair.manager);
-    }
-
-    std::vector<Pair> kept_;
+    std::vector<Kept> kept_;
     int registered_ = NONE;
 };
 
