@@ -1,14 +1,15 @@
 /*
- * A request as the service reads it: the test lists the fields it expects after the interface token, and the
- * scripted service reads them off the request with the parcel's own primitives, noting every field that differs
- * and any bytes left over. Booleans and 8-bit values travel as whole words, so a word covers them.
+ * A request as the service reads it: the test lists the fields it expects after the interface token (a word, a
+ * text, or any remote object), and the scripted service reads them off the request with the parcel's own
+ * primitives, noting every field that differs and any bytes left over. Booleans and 8-bit values travel as whole
+ * words, so a word covers them.
  */
 #ifndef REQUEST_FIELD_H
 #define REQUEST_FIELD_H
 
 #include <cstdint>
 #include <string>
-#include <utility>
+#include <variant>
 #include <vector>
 
 #include "message_parcel.h"
@@ -16,44 +17,23 @@
 namespace OHOS {
 namespace Zelkon {
 
-struct RequestField {
-    enum class Kind { WORD, TEXT, OBJECT };
-    Kind kind;
-    int32_t word;
-    std::string text;
-};
-
-inline RequestField Word(int32_t value)
-{
-    return {RequestField::Kind::WORD, value, {}};
-}
-
-inline RequestField Text(std::string value)
-{
-    return {RequestField::Kind::TEXT, 0, std::move(value)};
-}
-
 // A listener or callback: any remote object.
-inline RequestField Object()
-{
-    return {RequestField::Kind::OBJECT, 0, {}};
-}
+struct AnyObject {};
+inline constexpr AnyObject OBJECT{};
+
+using RequestField = std::variant<int32_t, std::string, AnyObject>;
 
 inline bool ReadsAs(MessageParcel& data, const RequestField& field)
 {
-    switch (field.kind) {
-    case RequestField::Kind::WORD: {
+    if (const auto* word = std::get_if<int32_t>(&field)) {
         int32_t value = 0;
-        return data.ReadInt32(value) && value == field.word;
+        return data.ReadInt32(value) && value == *word;
     }
-    case RequestField::Kind::TEXT: {
+    if (const auto* text = std::get_if<std::string>(&field)) {
         std::string value;
-        return data.ReadString(value) && value == field.text;
+        return data.ReadString(value) && value == *text;
     }
-    case RequestField::Kind::OBJECT:
-        return data.ReadRemoteObject() != nullptr;
-    }
-    return false;
+    return data.ReadRemoteObject() != nullptr;
 }
 
 // What differs from the expected token and fields; empty when the request is exactly that.
