@@ -77,13 +77,6 @@ const std::vector<BadRequest> BAD_REQUESTS = {
      },
      ERR_INVALID_DATA},
     {"file transfer without its record", Target::SHARE_SERVICE, 7, SendParams, ERR_INVALID_DATA},
-    {"file transfer claiming 2^32-1 files", Target::SHARE_SERVICE, 7,
-     [](MessageParcel& data) {
-         SendParams(data);
-         data.WriteString("preview");
-         data.WriteUint32(0xFFFFFFFFu);
-     },
-     ERR_INVALID_DATA},
     {"file transfer claiming more files than its bytes hold", Target::SHARE_SERVICE, 7,
      [](MessageParcel& data) {
          SendParams(data);
@@ -124,14 +117,6 @@ const std::vector<BadRequest> BAD_REQUESTS = {
          ManagerToken(data);
          data.WriteString("name");
          data.WriteString("account");
-     },
-     ERR_INVALID_DATA},
-    {"send claiming 2^31 files", Target::SHARE_MANAGER, 13,
-     [](MessageParcel& data) {
-         ManagerToken(data);
-         WriteDeviceRecord(data, "dev-1001-phone");
-         data.WriteString("preview");
-         data.WriteUint32(0x80000000u);
      },
      ERR_INVALID_DATA},
     {"callback registration without the callback", Target::SHARE_MANAGER, 5, ManagerToken, ERR_INVALID_DATA},

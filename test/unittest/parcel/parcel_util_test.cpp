@@ -62,6 +62,17 @@ TEST(ParcelUtilTest, RoundTripsTextsInlineAndThroughSharedMemoryUpToTheBound)
     }
 }
 
+// A size word and, unless empty, a raw block.
+std::function<void(MessageParcel&)> Block(uint32_t sizeWord, const std::string& block = "")
+{
+    return [sizeWord, block](MessageParcel& p) {
+        p.WriteUint32(sizeWord);
+        if (!block.empty()) {
+            p.WriteRawData(block.data(), block.size());
+        }
+    };
+}
+
 TEST(ParcelUtilTest, RefusesBrokenBlocksNamingWhyAndLeavesTheTextAsItWas)
 {
     const struct {
@@ -70,31 +81,14 @@ TEST(ParcelUtilTest, RefusesBrokenBlocksNamingWhyAndLeavesTheTextAsItWas)
         bool ok;
         const char* line;
     } cases[] = {
-        {"size word 0", [](MessageParcel& p) { p.WriteUint32(0); }, true, nullptr},
-        {"size word 1", [](MessageParcel& p) { p.WriteUint32(1); }, true, nullptr},
+        {"size word 0", Block(0), true, nullptr},
+        {"size word 1", Block(1), true, nullptr},
         {"no size word", [](MessageParcel&) {}, false, "Read message size failed."},
-        {"above five mebibytes", [](MessageParcel& p) { p.WriteUint32(MAX_SIZE + 1); }, false,
-         "The read data is too large."},
-        {"size word without block", [](MessageParcel& p) { p.WriteUint32(10); }, false, "ReadRawData failed "},
-        {"block of another size",
-         [](MessageParcel& p) {
-             p.WriteUint32(5);
-             p.WriteRawData("abcd\0x", 6);
-         },
-         false, "ReadRawData failed "},
-        {"last byte not zero",
-         [](MessageParcel& p) {
-             p.WriteUint32(3);
-             p.WriteRawData("abc", 3);
-         },
-         false, "Read chars error: 3."},
-        {"large block, last byte not zero",
-         [](MessageParcel& p) {
-             const std::string block(40000, 'k');
-             p.WriteUint32(40000);
-             p.WriteRawData(block.data(), block.size());
-         },
-         false, "Read chars error: 40000."},
+        {"above five mebibytes", Block(MAX_SIZE + 1), false, "The read data is too large."},
+        {"size word without block", Block(10), false, "ReadRawData failed "},
+        {"block of another size", Block(5, std::string("abcd\0x", 6)), false, "ReadRawData failed "},
+        {"last byte not zero", Block(3, "abc"), false, "Read chars error: 3."},
+        {"large block, last byte not zero", Block(40000, std::string(40000, 'k')), false, "Read chars error: 40000."},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
@@ -113,8 +107,7 @@ TEST(ParcelUtilTest, RefusesBrokenBlocksNamingWhyAndLeavesTheTextAsItWas)
 TEST(ParcelUtilTest, EndsTheTextAtTheFirstZeroInsideTheBlock)
 {
     MessageParcel parcel;
-    parcel.WriteUint32(6);
-    parcel.WriteRawData("ab\0cd\0", 6);
+    Block(6, std::string("ab\0cd\0", 6))(parcel);
     HiviewDFX::ScopedLogCapture log;
     std::string out = UNTOUCHED;
     ASSERT_TRUE(Read(parcel, out));
