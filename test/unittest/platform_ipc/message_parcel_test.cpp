@@ -7,10 +7,11 @@
 #include <unistd.h>
 #include <vector>
 
-#include "ipc_test_helpers.h"
 #include "ipc_types.h"
 #include "message_parcel.h"
+#include "parcel_bytes.h"
 #include "process_boundary.h"
+#include "scripted_stub.h"
 
 namespace OHOS {
 namespace {
@@ -130,7 +131,7 @@ TEST(MessageParcelTest, FileDescriptorIsCarriedAsADupThatTheParcelCloses)
 
 TEST(MessageParcelTest, RemoteObjectRecordsAreTypedByLocality)
 {
-    sptr<IRemoteObject> stub = new RecordingStub();
+    sptr<IRemoteObject> stub = new Zelkon::ScriptedStub(u"test.Stub");
     sptr<IRemoteObject> remote = ProcessBoundary::Translate(stub);
     const struct {
         sptr<IRemoteObject> object;
@@ -152,7 +153,7 @@ TEST(MessageParcelTest, RemoteObjectRecordsAreTypedByLocality)
 // and leaves the position, on the writing side and after crossing the process boundary alike.
 TEST(MessageParcelTest, PlainReadsMayNotOverlapAnObjectRecord)
 {
-    sptr<IRemoteObject> stub = new RecordingStub();
+    sptr<IRemoteObject> stub = new Zelkon::ScriptedStub(u"test.Stub");
     MessageParcel sent;
     sent.WriteInt32(7);
     ASSERT_TRUE(sent.WriteRemoteObject(stub));

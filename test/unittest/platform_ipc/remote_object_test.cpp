@@ -1,28 +1,46 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
-#include <thread>
 #include <unistd.h>
 
 #include "ipc_object_proxy.h"
-#include "ipc_test_helpers.h"
 #include "ipc_threads.h"
 #include "ipc_types.h"
+#include "notice_counter.h"
+#include "parcel_bytes.h"
 #include "process_boundary.h"
+#include "scripted_stub.h"
 
 namespace OHOS {
 namespace {
 
+using Zelkon::ScriptedStub;
 constexpr uint32_t CODE = 7;
+
+// Counts its notices and keeps the last object that died and whether it was told on an IPC thread.
+class CountingRecipient : public IRemoteObject::DeathRecipient, public Zelkon::NoticeCounter {
+public:
+    void OnRemoteDied(const wptr<IRemoteObject>& object) override
+    {
+        died_ = object.promote();
+        onIpcThread_ = IpcThreads::IsIpcThread();
+        Notice();
+    }
+
+    // Read once the notice was counted: the counter's lock orders the writes before.
+    sptr<IRemoteObject> died_;
+    bool onIpcThread_ = false;
+};
 
 class RemoteObjectTest : public testing::Test {
 protected:
     void TearDown() override { IpcThreads::Drain(); }
 
     // A stub "in another process" and the remote object that stands for it.
-    void Connect(RecordingStub::Handler handler = {})
+    void Connect(ScriptedStub::Handler handler = [](uint32_t, MessageParcel&, MessageParcel&) { return ERR_NONE; })
     {
-        stub_ = new RecordingStub(std::move(handler));
+        stub_ = new ScriptedStub(u"test.Stub");
+        stub_->SetHandler(std::move(handler));
         remote_ = new IPCObjectProxy(stub_);
     }
 
@@ -32,14 +50,18 @@ protected:
         return remote_->SendRequest(code, data, reply, option);
     }
 
-    sptr<RecordingStub> stub_;
+    sptr<ScriptedStub> stub_;
     sptr<IPCObjectProxy> remote_;
 };
 
 TEST_F(RemoteObjectTest, RequestAndReplyCrossTheBoundaryIntact)
 {
+    std::vector<uint8_t> received;
+    const MessageParcel* receivedParcel = nullptr;
     std::vector<uint8_t> replyBytes;
-    Connect([&replyBytes](uint32_t, MessageParcel& data, MessageParcel& reply) {
+    Connect([&](uint32_t, MessageParcel& data, MessageParcel& reply) {
+        received = BytesOf(data);
+        receivedParcel = &data;
         EXPECT_EQ(data.ReadInterfaceToken(), u"test.Service");
         EXPECT_EQ(data.ReadString(), "payload");
         const int fd = data.ReadFileDescriptor();
@@ -65,12 +87,11 @@ TEST_F(RemoteObjectTest, RequestAndReplyCrossTheBoundaryIntact)
 
     // Identical but for the descriptor number, which the receiving side gets anew.
     std::vector<uint8_t> sent = BytesOf(data);
-    std::vector<uint8_t> received = stub_->RequestBytes();
     ASSERT_EQ(received.size(), sent.size());
     std::fill(sent.begin() + fdOffset + 8, sent.begin() + fdOffset + 16, 0);
     std::fill(received.begin() + fdOffset + 8, received.begin() + fdOffset + 16, 0);
     EXPECT_EQ(received, sent);
-    EXPECT_NE(stub_->RequestParcel(), &data);
+    EXPECT_NE(receivedParcel, &data);
     char got = 0;
     ASSERT_EQ(read(pipeFds[0], &got, 1), 1);
     EXPECT_EQ(got, 'q');
@@ -102,7 +123,8 @@ TEST_F(RemoteObjectTest, LocalObjectArrivesAsARemoteObjectThatForwardsToIt)
         received.push_back(data.ReadRemoteObject());
         return ERR_NONE;
     });
-    sptr<RecordingStub> listener = new RecordingStub();
+    sptr<ScriptedStub> listener = new ScriptedStub(u"test.Listener");
+    listener->SetHandler([](uint32_t, MessageParcel&, MessageParcel&) { return ERR_NONE; });
     for (int i = 0; i < 2; ++i) {
         MessageParcel data;
         ASSERT_TRUE(data.WriteRemoteObject(listener));
@@ -115,7 +137,7 @@ TEST_F(RemoteObjectTest, LocalObjectArrivesAsARemoteObjectThatForwardsToIt)
     EXPECT_NE(received[0].GetRefPtr(), static_cast<IRemoteObject*>(listener.GetRefPtr()));
     // One identity per object, so that the other side can compare what it receives.
     EXPECT_EQ(received[0], received[1]);
-    EXPECT_EQ(received[0]->GetObjectDescriptor(), u"test.RecordingStub");
+    EXPECT_EQ(received[0]->GetObjectDescriptor(), u"test.Listener");
 
     MessageParcel call;
     call.WriteInt32(9);
@@ -140,14 +162,14 @@ TEST_F(RemoteObjectTest, DeadObjectRefusesRequestsAndTellsEachRecipientOnce)
     MessageParcel reply;
     EXPECT_EQ(Send(data, reply), ERR_DEAD_OBJECT);
     EXPECT_TRUE(remote_->IsObjectDead());
-    first->WaitForCalls(1);
-    second->WaitForCalls(1);
+    for (const sptr<CountingRecipient>& recipient : {first, second}) {
+        ASSERT_TRUE(recipient->WaitForCount(1));
+    }
     IpcThreads::Drain();
     for (const sptr<CountingRecipient>& recipient : {first, second}) {
-        EXPECT_EQ(recipient->Calls(), 1);
-        EXPECT_NE(recipient->Threads()[0], std::this_thread::get_id());
-        EXPECT_TRUE(recipient->OnIpcThread());
-        EXPECT_EQ(recipient->Died(), sptr<IRemoteObject>(remote_));
+        EXPECT_EQ(recipient->Count(), 1);
+        EXPECT_TRUE(recipient->onIpcThread_);
+        EXPECT_EQ(recipient->died_, sptr<IRemoteObject>(remote_));
     }
     EXPECT_TRUE(stub_->Codes().empty());
 }
