@@ -24,25 +24,14 @@ public:
 
 // Each list operation with its own texts.
 struct ListOperation {
-    const char* name;
+    std::string name;
     std::vector<ShareDeviceInfo> (ShareManagerClient::*get)();
-    const char* prefix;
-    LogLine proxyExit;
-    LogLine noProxy;
+    // GetAllUserList names itself in its failure lines and gives the size in its exit line.
+    bool named;
 };
 
-const ListOperation LISTS[] = {
-    {"GetAllUserList",
-     &ShareManagerClient::GetAllUserList,
-     "GetAllUserList ",
-     {PROXY_TAG, LOG_DEBUG, "GetAllUserList Exit size 0"},
-     {CLIENT_TAG, LOG_ERROR, "GetAllUserList shareManagerSrvProxy_ is nullptr"}},
-    {"GetSendingUserList",
-     &ShareManagerClient::GetSendingUserList,
-     "",
-     {PROXY_TAG, LOG_DEBUG, "GetSendingUserList Exit"},
-     {CLIENT_TAG, LOG_ERROR, "shareManagerSrvProxy_ is nullptr"}},
-};
+const ListOperation LISTS[] = {{"GetAllUserList", &ShareManagerClient::GetAllUserList, true},
+                               {"GetSendingUserList", &ShareManagerClient::GetSendingUserList, false}};
 
 class ShareManagerReplyTest : public ShareManagerTest {
 protected:
@@ -54,82 +43,58 @@ protected:
             return 0;
         });
     }
-
-    // A list reply: the count, then `records` records, of which the one at index `broken` is cut short.
-    void AnswerList(int32_t count, int records, int broken = -1)
-    {
-        Answer([=](MessageParcel& reply) {
-            reply.WriteInt32(count);
-            for (int i = 0; i < records; ++i) {
-                ShareDeviceInfo device = FilledDevice();
-                device.deviceId = "device-" + std::to_string(i);
-                device.percent = i;
-                if (i == broken) {
-                    reply.WriteString(device.deviceName);
-                    return;
-                }
-                device.Marshalling(reply);
-            }
-        });
-    }
 };
 
-TEST_F(ShareManagerReplyTest, ListsOfUpToAThousandRecordsAreReadWhole)
+TEST_F(ShareManagerReplyTest, ListsAreReadWholeUpToAThousandRecordsOrNotAtAll)
 {
-    AnswerList(1000, 1000);
-    for (const ListOperation& list : LISTS) {
-        SCOPED_TRACE(list.name);
-        log_.Clear();
-        const std::vector<ShareDeviceInfo> devices = (Client().*list.get)();
-        ASSERT_EQ(devices.size(), 1000u);
-        EXPECT_EQ(devices.front().deviceId, "device-0");
-        EXPECT_EQ(devices[500].percent, 500);
-        EXPECT_EQ(devices.back().deviceId, "device-999");
-        const std::string name = list.name;
-        ExpectLines(log_, {{CLIENT_TAG, LOG_DEBUG, (name + " Enter").c_str()},
-                           {PROXY_TAG, LOG_DEBUG, (name + " Enter").c_str()},
-                           {CLIENT_TAG, LOG_DEBUG, (name + " Exit size 1000").c_str()}});
-        EXPECT_EQ(Logged({PROXY_TAG, LOG_DEBUG,
-                          name == "GetAllUserList" ? "GetAllUserList Exit size 1000" : "GetSendingUserList Exit"}),
-                  1u);
-    }
-}
-
-TEST_F(ShareManagerReplyTest, BadCountsAndRecordsGiveAnEmptyListWithTheOperationsTexts)
-{
-    struct Reply {
-        const char* what;
+    const struct {
         int32_t count;
         int records;
+        // The record cut short, or -1.
         int broken;
-        const char* error; // null: no error, an ordinary empty list
-    };
-    const Reply replies[] = {
-        {"count above the bound", 1001, 1001, -1, "Read device counter failed 1001 ."},
-        {"negative count", -5, 0, -1, nullptr},
-        {"third record cut short", 5, 5, 2, "Read share device failed."},
+        size_t expected;
+        // The proxy's failure line after the operation's prefix, or empty.
+        std::string error;
+    } replies[] = {
+        {1000, 1000, -1, 1000, ""},
+        {-5, 0, -1, 0, ""},
+        {1001, 1001, -1, 0, "Read device counter failed 1001 ."},
+        {5, 5, 2, 0, "Read share device failed."},
+        {0, -1, -1, 0, "Read device counter failed 0 ."},
     };
     for (const ListOperation& list : LISTS) {
-        for (const Reply& reply : replies) {
-            SCOPED_TRACE(std::string(list.name) + ": " + reply.what);
-            AnswerList(reply.count, reply.records, reply.broken);
+        for (const auto& reply : replies) {
+            SCOPED_TRACE(list.name + " answered " + std::to_string(reply.count));
+            Answer([reply](MessageParcel& parcel) {
+                if (reply.records >= 0) {
+                    parcel.WriteInt32(reply.count);
+                }
+                for (int i = 0; i < reply.records; ++i) {
+                    ShareDeviceInfo device = FilledDevice();
+                    device.deviceId = "device-" + std::to_string(i);
+                    i == reply.broken ? parcel.WriteString(device.deviceName) : device.Marshalling(parcel);
+                }
+            });
             log_.Clear();
-            EXPECT_TRUE((Client().*list.get)().empty());
-            const std::string error = std::string(list.prefix) + (reply.error == nullptr ? "" : reply.error);
-            EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, error.c_str()}), reply.error == nullptr ? 0u : 1u);
-            EXPECT_EQ(Logged(list.proxyExit), reply.error == nullptr ? 1u : 0u);
+            const std::vector<ShareDeviceInfo> devices = (Client().*list.get)();
+            ASSERT_EQ(devices.size(), reply.expected);
+            if (!devices.empty()) {
+                EXPECT_EQ(devices.back().deviceId, "device-999");
+            }
+            const std::string size = " size " + std::to_string(reply.expected);
+            const std::string prefix = list.named ? list.name + " " : "";
+            const LogLine proxyExit{PROXY_TAG, LOG_DEBUG, list.name + " Exit" + (list.named ? size : "")};
+            ExpectLines(log_, {{CLIENT_TAG, LOG_DEBUG, list.name + " Enter"},
+                               {PROXY_TAG, LOG_DEBUG, list.name + " Enter"},
+                               {CLIENT_TAG, LOG_DEBUG, list.name + " Exit" + size},
+                               {PROXY_TAG, LOG_ERROR, reply.error.empty() ? "" : prefix + reply.error}});
+            EXPECT_EQ(Logged(proxyExit), reply.error.empty() ? 1u : 0u);
         }
-        // A reply without the count, as a failed request leaves it.
         stub_->SetHandler([](uint32_t, MessageParcel&, MessageParcel&) { return -9; });
         log_.Clear();
         EXPECT_TRUE((Client().*list.get)().empty());
-        const std::string failed = std::string(list.prefix) + "SendRequest is failed, error code: -9";
-        EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, failed.c_str()}), 1u);
-        Answer([](MessageParcel&) {});
-        log_.Clear();
-        EXPECT_TRUE((Client().*list.get)().empty());
-        const std::string noCount = std::string(list.prefix) + "Read device counter failed 0 .";
-        EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, noCount.c_str()}), 1u);
+        const std::string prefix = list.named ? list.name + " " : "";
+        EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, prefix + "SendRequest is failed, error code: -9"}), 1u);
     }
 }
 
@@ -211,7 +176,9 @@ TEST_F(ShareManagerReplyTest, WithoutTheServiceTheRepliesAreNeutralAndSayWhy)
     for (const ListOperation& list : LISTS) {
         log_.Clear();
         EXPECT_TRUE((Client().*list.get)().empty());
-        ExpectLines(log_, {{CLIENT_TAG, LOG_ERROR, "Get ShareWidgetService failed."}, list.noProxy});
+        const std::string noProxy = (list.named ? list.name + " " : "") + "shareManagerSrvProxy_ is nullptr";
+        ExpectLines(log_,
+                    {{CLIENT_TAG, LOG_ERROR, "Get ShareWidgetService failed."}, {CLIENT_TAG, LOG_ERROR, noProxy}});
     }
     EXPECT_EQ(Client().GetReceiverActionCallback(), nullptr);
     EXPECT_EQ(Client().GetPreviewData(), "");
