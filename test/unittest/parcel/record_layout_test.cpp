@@ -14,7 +14,6 @@
 #include "bytes_info.h"
 #include "common_share_object.h"
 #include "contact_info.h"
-#include "data_bean.h"
 #include "golden_vectors.h"
 #include "hilog/log_capture.h"
 #include "message_parcel.h"
@@ -385,31 +384,6 @@ TEST(GoldenRecordTest, ReadsTheRecordedBytesBack)
     EXPECT_EQ(device.deviceType, 12);
     EXPECT_EQ(device.deviceId, "udid-77");
     EXPECT_EQ(device.timestamp, 1763800000000LL);
-}
-
-// A record of the application's own layout: WriteToParcel reaches it through the base.
-template <typename Record>
-bool WritesTheOverride()
-{
-    class Overridden : public Record {
-    public:
-        bool Marshalling(Parcel& parcel) const override { return parcel.WriteInt32(0x0DD); }
-    };
-    const Overridden record;
-    const Record& base = record;
-    MessageParcel parcel;
-    return base.WriteToParcel(parcel) && parcel.GetDataSize() == sizeof(int32_t) && parcel.ReadInt32() == 0x0DD;
-}
-
-TEST(RecordDispatchTest, WriteToParcelCallsTheDynamicTypesMarshalling)
-{
-    EXPECT_TRUE(WritesTheOverride<SendBean>());
-    EXPECT_TRUE(WritesTheOverride<DataBean>());
-    EXPECT_TRUE(WritesTheOverride<BytesInfo>());
-    EXPECT_TRUE(WritesTheOverride<ShareDevice>());
-    EXPECT_TRUE(WritesTheOverride<ContactInfo>());
-    EXPECT_TRUE(WritesTheOverride<ShareDeviceInfo>());
-    EXPECT_TRUE(WritesTheOverride<ShareAccountInfo>());
 }
 
 } // namespace
