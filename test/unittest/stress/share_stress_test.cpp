@@ -52,7 +52,11 @@ struct Call {
 };
 
 const std::vector<Call> CALLS = {
-    {"EnableDiscoveryPolicy", [] { return Share().EnableDiscoveryPolicy(1) >= 0; }},
+    {"EnableDiscoveryPolicy",
+     [] {
+         const int32_t result = Share().EnableDiscoveryPolicy(1);
+         return result == 1 || result == 0;
+     }},
     {"GetPontalPublishInfo",
      [] {
          std::string info = "untouched";
@@ -65,7 +69,11 @@ const std::vector<Call> CALLS = {
          const size_t count = Share().GetPermanentDeviceList().size();
          return count == 3 || count == 0;
      }},
-    {"GetEnableState", [] { return Manager().GetEnableState() <= 1; }},
+    {"GetEnableState",
+     [] {
+         const int32_t state = Manager().GetEnableState();
+         return state == 1 || state == 0;
+     }},
     {"GetAllUserList",
      [] {
          const size_t count = Manager().GetAllUserList().size();
