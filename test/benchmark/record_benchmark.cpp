@@ -21,11 +21,6 @@ namespace {
 constexpr int32_t RECORDS = 1000;
 constexpr size_t BIG_STRING_SIZE = 5 * 1024 * 1024;
 
-std::string BytesOf(const Parcel& parcel)
-{
-    return std::string(reinterpret_cast<const char*>(parcel.GetData()), parcel.GetDataSize());
-}
-
 // The copy of the bytes into a fresh buffer, and out again when twice.
 void Memcpy(benchmark::State& state, size_t size, bool twice)
 {
@@ -74,7 +69,7 @@ std::string UserListReply()
     for (int32_t i = 0; i < RECORDS; ++i) {
         device.Marshalling(reply);
     }
-    return BytesOf(reply);
+    return std::string(reinterpret_cast<const char*>(reply.GetData()), reply.GetDataSize());
 }
 
 void BM_UserListRead(benchmark::State& state)

@@ -30,25 +30,22 @@ void FillParcel(ParcelType& parcel, const uint8_t* data, size_t size)
     }
 }
 
-template <typename Record>
-std::string WrittenBytes(const Record& record)
-{
-    Parcel parcel;
-    if (!record.Marshalling(parcel)) {
-        abort();
-    }
-    return std::string(reinterpret_cast<const char*>(parcel.GetData()), parcel.GetDataSize());
-}
-
 // Aborts (a finding) when writing the record and reading it back does not give the same record.
 template <typename Record>
 void CheckRewriteStable(const Record& record)
 {
-    const std::string written = WrittenBytes(record);
+    const auto bytesOf = [](const Record& written) {
+        Parcel parcel;
+        if (!written.Marshalling(parcel)) {
+            abort();
+        }
+        return std::string(reinterpret_cast<const char*>(parcel.GetData()), parcel.GetDataSize());
+    };
+    const std::string written = bytesOf(record);
     Parcel parcel;
     FillParcel(parcel, reinterpret_cast<const uint8_t*>(written.data()), written.size());
     Record reread;
-    if (!reread.ReadFromParcel(parcel) || parcel.GetReadableBytes() != 0 || WrittenBytes(reread) != written) {
+    if (!reread.ReadFromParcel(parcel) || parcel.GetReadableBytes() != 0 || bytesOf(reread) != written) {
         abort();
     }
 }

@@ -1,3 +1,5 @@
+#include <functional>
+
 #include "fuzz_harness.h"
 #include "share_srv_proxy.h"
 
@@ -6,22 +8,17 @@
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     using namespace OHOS::Zelkon;
+    using P = ShareSrvProxy;
     static const TransmitParam param{"device", 30, FuzzListener<ITransmitCallback>(), TransmitEventType{}};
     static SendBean sendBean;
     static CommonShareObject shareObject;
-    const auto reply = AnswerWith<ShareSrvProxy>(data, size, 4);
-    switch (reply.operation) {
-    case 0:
-        reply.proxy.SendFile(param, sendBean, "com.example.share");
-        break;
-    case 1:
-        reply.proxy.SendFile(param, DataBean(), "com.example.share");
-        break;
-    case 2:
-        reply.proxy.SendBytes(param, BytesInfo());
-        break;
-    default:
-        reply.proxy.CommonShareSend(shareObject, param.transCallback);
-    }
+    static const std::function<void(P&)> operations[] = {
+        [](P& p) { p.SendFile(param, sendBean, "com.example.share"); },
+        [](P& p) { p.SendFile(param, DataBean(), "com.example.share"); },
+        [](P& p) { p.SendBytes(param, BytesInfo()); },
+        [](P& p) { p.CommonShareSend(shareObject, param.transCallback); },
+    };
+    const auto reply = AnswerWith<P>(data, size, 4);
+    operations[reply.operation](reply.proxy);
     return 0;
 }

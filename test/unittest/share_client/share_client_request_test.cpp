@@ -219,6 +219,8 @@ TEST_F(ShareClientRequestTest, EveryOperationSendsItsFieldsReturnsTheAnswerAndLo
             if (answer) {
                 ExpectLines(log_, operation.lines);
                 EXPECT_EQ(ErrorLines(log_, CLIENT_TAG) + ErrorLines(log_, PROXY_TAG), 0u);
+            } else if (operation.reply == Reply::SENDER) {
+                EXPECT_EQ(Logged({PROXY_TAG, LOG_ERROR, "shareSender is nullptr."}), 1u);
             }
         }
     }
