@@ -131,21 +131,6 @@ TEST_F(ShareClientConnectionTest, ADeathNoticeForAnotherObjectOrAReleasedOneKeep
     EXPECT_EQ(Loads(), loads);
 }
 
-TEST_F(ShareClientConnectionTest, ADiedCallbackReleasedByItsOwnerIsNotCalled)
-{
-    ASSERT_EQ(Client().Connect(), 0);
-    auto callback = std::make_shared<CountingDiedCallback>();
-    Client().RegisterDiedCallback(callback);
-    std::weak_ptr<CountingDiedCallback> watch = callback;
-    callback.reset();
-    ASSERT_TRUE(SamgrHostControl::KillSystemAbility(SHARE_SERVICE_SA_ID));
-    SamgrHostControl::Reset();
-    EXPECT_TRUE(watch.expired());
-    RegisterShareService(stub_);
-    EXPECT_EQ(Client().Connect(), 0);
-    EXPECT_EQ(Loads(), 1) << "the proxy was dropped all the same";
-}
-
 TEST_F(ShareClientConnectionTest, ADiedCallbackMayCallTheClient)
 {
     int32_t resultInCallback = -1;

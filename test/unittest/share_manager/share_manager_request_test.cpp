@@ -4,9 +4,7 @@
  * and the proxy log, as one table run against a service that answers, one that is absent and one whose request
  * fails.
  */
-#include <algorithm>
 #include <functional>
-#include <numeric>
 #include <string>
 #include <vector>
 
@@ -168,19 +166,6 @@ TEST_F(ShareManagerRequestTest, EveryOperationSendsItsFieldsReturnsTheAnswerAndL
             EXPECT_EQ(ErrorLines(log_, CLIENT_TAG) + ErrorLines(log_, PROXY_TAG), 0u);
         }
     }
-}
-
-TEST_F(ShareManagerRequestTest, TheCodesOfTheTableAndOfTheOtherRepliesCoverOneToThirtySixOnce)
-{
-    // The operations with other answers: the two lists, the receiver, the preview, the account, the swing focus.
-    std::vector<uint32_t> codes = {11, 19, 20, 21, 22, 36};
-    for (const Operation& operation : Operations()) {
-        codes.push_back(operation.code);
-    }
-    std::sort(codes.begin(), codes.end());
-    std::vector<uint32_t> expected(36);
-    std::iota(expected.begin(), expected.end(), 1u);
-    EXPECT_EQ(codes, expected);
 }
 
 TEST_F(ShareManagerRequestTest, WithoutTheServiceEveryOperationGivesTheNeutralResultAndSaysWhy)
