@@ -1,53 +1,33 @@
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <string>
 
+#include "fuzz_harness.h"
 #include "message_parcel.h"
 #include "parcel_util.h"
-#include "record_fuzz.h"
-#include "share_manager_srv_proxy.h"
 
-namespace {
-using OHOS::MessageParcel;
-using OHOS::sptr;
-using OHOS::Zelkon::ShareManagerSrvProxy;
-
-// The reader is a member of the proxy but uses nothing of its remote object.
-ShareManagerSrvProxy& Reader()
-{
-    static sptr<ShareManagerSrvProxy> proxy(new ShareManagerSrvProxy(nullptr));
-    return *proxy;
-}
-
-// A text that was read must come back unchanged through the writer and the reader.
-void CheckRewriteStable(const std::string& text)
-{
-    MessageParcel parcel;
-    if (!OHOS::Zelkon::ParcelUtil::WriteBigString(parcel, text)) {
-        abort();
-    }
-    std::string reread;
-    if (!Reader().ReadBigString(parcel, reread) || reread != text) {
-        abort();
-    }
-}
-} // namespace
-
+// A text that was read must come back unchanged through the writer and the reader; a refused one leaves the text.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    MessageParcel parcel;
+    using OHOS::Zelkon::ParcelUtil;
+    constexpr uint32_t maxSize = 5242880;
+    OHOS::MessageParcel parcel;
     OHOS::Zelkon::FillParcel(parcel, data, size);
     const std::string untouched = "kept when nothing is read";
     std::string text = untouched;
-    if (!Reader().ReadBigString(parcel, text)) {
+    if (!ParcelUtil::ReadBigString(parcel, text, maxSize, 1)) {
         if (text != untouched) {
             abort();
         }
         return 0;
     }
-    if (text != untouched) {
-        CheckRewriteStable(text);
+    // An empty text leaves it as it was.
+    if (text == untouched) {
+        return 0;
+    }
+    OHOS::MessageParcel rewritten;
+    std::string reread;
+    if (!ParcelUtil::WriteBigString(rewritten, text) || !ParcelUtil::ReadBigString(rewritten, reread, maxSize, 1) ||
+        reread != text) {
+        abort();
     }
     return 0;
 }

@@ -1,7 +1,7 @@
 /*
  * Writes the seed corpus of every fuzzer: well-formed replies built with the library's own writers (and frames
- * built with the host transport's encoder), so that the fuzzers start from what a working service sends. Run:
- * fuzz_seed_writer <test/fuzztest folder>.
+ * built with the host transport's encoder), so that the fuzzers start from what a working service sends. A reply
+ * fuzzer's seed leads with the byte that picks its operation. Run: fuzz_seed_writer <test/fuzztest folder>.
  */
 #include <cstdint>
 #include <fstream>
@@ -10,134 +10,122 @@
 #include <string>
 #include <vector>
 
-#include "contact_info.h"
 #include "ipc_frame.h"
 #include "message_parcel.h"
 #include "parcel_util.h"
 #include "sample_records.h"
-#include "share_account_info.h"
-#include "share_device_info.h"
 
 namespace {
 using namespace OHOS;
 using namespace OHOS::Zelkon;
 
 using Writer = std::function<bool(MessageParcel&)>;
-
-// Counts of the operations that the selector byte of the multi-operation fuzzers picks from.
-constexpr uint8_t SHARE_BOOL_OPERATIONS = 19;
-constexpr uint8_t MANAGER_BOOL_OPERATIONS = 31;
-constexpr uint8_t USER_LIST_OPERATIONS = 2;
-constexpr uint8_t SENDER_OPERATIONS = 4;
-constexpr uint8_t LEADING_OBJECT = 0x80;
+constexpr int RECORD = -1;
+constexpr int LEADING_OBJECT = 0x80;
 
 std::string root;
 
-void WriteSeed(const std::string& fuzzer, const std::string& name, const Writer& writer, int selector = -1)
+void WriteSeed(const std::string& fuzzer, const std::string& name, const Writer& writer, int selector)
 {
     MessageParcel parcel;
-    if (!writer(parcel)) {
-        std::cerr << "cannot build seed " << fuzzer << "/" << name << "\n";
-        exit(1);
-    }
-    std::ofstream out(root + "/" + fuzzer + "/corpus/" + name, std::ios::binary);
-    if (selector >= 0) {
+    std::ofstream out(root + "/" + fuzzer + "_fuzzer/corpus/" + name, std::ios::binary);
+    if (selector != RECORD) {
         out.put(static_cast<char>(selector));
     }
-    out.write(reinterpret_cast<const char*>(parcel.GetData()), static_cast<std::streamsize>(parcel.GetDataSize()));
-    if (!out) {
+    if (!writer(parcel) || !out.write(reinterpret_cast<const char*>(parcel.GetData()),
+                                      static_cast<std::streamsize>(parcel.GetDataSize()))) {
         std::cerr << "cannot write seed " << fuzzer << "/" << name << "\n";
         exit(1);
     }
 }
 
-ContactInfo FilledContact()
+template <typename Record>
+Writer Written(const Record& record)
 {
-    ContactInfo contact;
-    contact.contactKind = 2;
-    contact.contactName = "Ada";
-    contact.contactPhoto = "data:image/png;base64,AAAA";
-    return contact;
+    return [record](MessageParcel& p) { return record.Marshalling(p); };
 }
 
-ShareDeviceInfo NamedDevice(const std::string& name)
+Writer Words(std::initializer_list<int32_t> words)
 {
-    ShareDeviceInfo device = FilledDevice();
-    device.deviceName = name;
-    return device;
-}
-
-bool WritePermanentDevice(MessageParcel& p, int32_t id, const std::string& name)
-{
-    return p.WriteInt32(id) && p.WriteString(name) && p.WriteInt32(12) && p.WriteString("udid-77") &&
-           p.WriteInt64(1760000000000LL);
-}
-
-Writer UserList(int32_t count)
-{
-    return [count](MessageParcel& p) {
-        bool ok = p.WriteInt32(count);
-        for (int32_t i = 0; ok && i < count; ++i) {
-            ok = NamedDevice("device " + std::to_string(i)).Marshalling(p);
+    return [words](MessageParcel& p) {
+        bool ok = true;
+        for (int32_t word : words) {
+            ok = ok && p.WriteInt32(word);
         }
         return ok;
     };
 }
 
-Writer BigString(const std::string& text)
+bool WritePermanentDevice(MessageParcel& p, int32_t id)
 {
-    return [text](MessageParcel& p) { return ParcelUtil::WriteBigString(p, text); };
+    return p.WriteInt32(id) && p.WriteString("Desk PC") && p.WriteInt32(12) && p.WriteString("udid-77") &&
+           p.WriteInt64(1760000000000LL);
 }
 
-void WriteRecordSeeds()
+Writer PermanentDevices(int32_t count)
 {
-    WriteSeed("share_device_info_fuzzer", "default", [](MessageParcel& p) { return ShareDeviceInfo().Marshalling(p); });
-    WriteSeed("share_device_info_fuzzer", "filled",
-              [](MessageParcel& p) { return NamedDevice("tablet").Marshalling(p); });
-    WriteSeed("contact_info_fuzzer", "default", [](MessageParcel& p) { return ContactInfo().Marshalling(p); });
-    WriteSeed("contact_info_fuzzer", "filled", [](MessageParcel& p) { return FilledContact().Marshalling(p); });
-    WriteSeed("share_account_info_fuzzer", "default",
-              [](MessageParcel& p) { return ShareAccountInfo().Marshalling(p); });
-    WriteSeed("share_account_info_fuzzer", "filled", [](MessageParcel& p) { return FilledAccount().Marshalling(p); });
-    WriteSeed("permanent_device_info_fuzzer", "basic",
-              [](MessageParcel& p) { return WritePermanentDevice(p, 12, "Desk PC"); });
-    for (const char* fuzzer : {"big_string_fuzzer", "preview_data_fuzzer"}) {
-        WriteSeed(fuzzer, "empty", BigString(""));
-        WriteSeed(fuzzer, "short", BigString("ab"));
-        WriteSeed(fuzzer, "text", BigString(std::string(1000, 'p')));
-        WriteSeed(fuzzer, "inner_zero",
-                  [](MessageParcel& p) { return p.WriteUint32(6) && p.WriteRawData("ab\0cd", 6); });
-    }
+    return [count](MessageParcel& p) {
+        bool ok = p.WriteInt32(count);
+        for (int32_t id = 1; ok && id <= count; ++id) {
+            ok = WritePermanentDevice(p, id);
+        }
+        return ok;
+    };
 }
 
-void WriteReplySeeds()
+Writer Users(int32_t count)
 {
-    const Writer yes = [](MessageParcel& p) { return p.WriteBool(true); };
-    for (uint8_t op = 0; op < SHARE_BOOL_OPERATIONS; ++op) {
-        WriteSeed("share_bool_reply_fuzzer", "op" + std::to_string(op), yes, op);
+    return [count](MessageParcel& p) {
+        bool ok = p.WriteInt32(count);
+        for (int32_t i = 0; ok && i < count; ++i) {
+            ok = FilledDevice().Marshalling(p);
+        }
+        return ok;
+    };
+}
+
+void WriteSeeds()
+{
+    WriteSeed("share_device_info", "default", Written(ShareDeviceInfo()), RECORD);
+    WriteSeed("share_device_info", "filled", Written(FilledDevice()), RECORD);
+    WriteSeed("contact_info", "default", Written(ContactInfo()), RECORD);
+    WriteSeed("contact_info", "filled", Written(FilledDevice().contactInfo), RECORD);
+    WriteSeed("share_account_info", "default", Written(ShareAccountInfo()), RECORD);
+    WriteSeed("share_account_info", "filled", Written(FilledAccount()), RECORD);
+    WriteSeed(
+        "permanent_device_info", "basic", [](MessageParcel& p) { return WritePermanentDevice(p, 12); }, RECORD);
+    for (int selector : {RECORD, 0}) {
+        const char* fuzzer = selector == RECORD ? "big_string" : "preview_data";
+        for (const std::string& text : {std::string(), std::string("ab"), std::string(1000, 'p')}) {
+            WriteSeed(
+                fuzzer, "text" + std::to_string(text.size()),
+                [text](MessageParcel& p) { return ParcelUtil::WriteBigString(p, text); }, selector);
+        }
+        WriteSeed(
+            fuzzer, "inner_zero", [](MessageParcel& p) { return p.WriteUint32(6) && p.WriteRawData("ab\0cd", 6); },
+            selector);
     }
-    for (uint8_t op = 0; op < MANAGER_BOOL_OPERATIONS; ++op) {
-        WriteSeed("share_manager_bool_reply_fuzzer", "op" + std::to_string(op), yes, op);
+    for (int op = 0; op < 19; ++op) {
+        WriteSeed("share_bool_reply", "op" + std::to_string(op), Words({1}), op);
     }
-    WriteSeed("pontal_publish_info_fuzzer", "info",
-              [](MessageParcel& p) { return p.WriteString("pontal-info") && p.WriteBool(true); });
-    WriteSeed("pontal_publish_info_fuzzer", "empty",
-              [](MessageParcel& p) { return p.WriteString("") && p.WriteBool(false); });
-    WriteSeed("permanent_device_list_fuzzer", "two", [](MessageParcel& p) {
-        return p.WriteInt32(2) && WritePermanentDevice(p, 1, "Desk PC") && WritePermanentDevice(p, 2, "Laptop");
-    });
-    WriteSeed("permanent_device_list_fuzzer", "none", [](MessageParcel& p) { return p.WriteInt32(0); });
-    for (uint8_t op = 0; op < USER_LIST_OPERATIONS; ++op) {
-        WriteSeed("user_list_reply_fuzzer", "two_op" + std::to_string(op), UserList(2), op);
-        WriteSeed("user_list_reply_fuzzer", "none_op" + std::to_string(op), UserList(0), op);
+    for (int op = 0; op < 31; ++op) {
+        WriteSeed("share_manager_bool_reply", "op" + std::to_string(op), Words({1}), op);
     }
-    const Writer nothing = [](MessageParcel&) { return true; };
-    WriteSeed("receiver_action_callback_fuzzer", "object", nothing, LEADING_OBJECT);
-    WriteSeed("receiver_action_callback_fuzzer", "no_object", nothing, 0);
-    WriteSeed("account_info_reply_fuzzer", "filled", [](MessageParcel& p) { return FilledAccount().Marshalling(p); });
-    for (uint8_t op = 0; op < SENDER_OPERATIONS; ++op) {
-        WriteSeed("sender_reply_fuzzer", "op" + std::to_string(op), nothing, LEADING_OBJECT | op);
+    for (int op = 0; op < 4; ++op) {
+        WriteSeed("sender_reply", "op" + std::to_string(op), Words({}), LEADING_OBJECT | op);
     }
+    for (int op = 0; op < 2; ++op) {
+        WriteSeed("user_list_reply", "two_op" + std::to_string(op), Users(2), op);
+        WriteSeed("user_list_reply", "none_op" + std::to_string(op), Users(0), op);
+    }
+    WriteSeed(
+        "pontal_publish_info", "info",
+        [](MessageParcel& p) { return p.WriteString("pontal-info") && p.WriteBool(true); }, 0);
+    WriteSeed("permanent_device_list", "two", PermanentDevices(2), 0);
+    WriteSeed("permanent_device_list", "none", PermanentDevices(0), 0);
+    WriteSeed("receiver_action_callback", "object", Words({}), LEADING_OBJECT);
+    WriteSeed("receiver_action_callback", "no_object", Words({}), 0);
+    WriteSeed("account_info_reply", "filled", Written(FilledAccount()), 0);
 }
 // A frame of the host transport, behind the byte that says how many descriptors came with it.
 void WriteFrameSeed(const std::string& name, uint8_t fds, const std::vector<uint8_t>& frame)
@@ -193,8 +181,7 @@ int main(int argc, char** argv)
         return 2;
     }
     root = argv[1];
-    WriteRecordSeeds();
-    WriteReplySeeds();
+    WriteSeeds();
     WriteFrameSeeds();
     return 0;
 }

@@ -1,7 +1,7 @@
 /*
  * A service that answers every request with bytes it is handed, as a broken or hostile service would: the reply
  * fuzzers feed their input through it to the real proxies, so that the library reads it exactly as it reads a
- * reply that crossed the process boundary.
+ * reply that crossed the process boundary; the benchmarks answer with it at the least cost.
  */
 #ifndef REPLY_STUB_H
 #define REPLY_STUB_H
@@ -34,24 +34,6 @@ private:
     size_t size_ = 0;
     bool withObject_ = false;
 };
-
-// A proxy of type Proxy whose every request is answered by stub; made once per fuzzer, as the stub is.
-template <typename Proxy>
-sptr<Proxy> ProxyAnsweredBy(const sptr<ReplyStub>& stub)
-{
-    return sptr<Proxy>(new Proxy(stub));
-}
-
-// A fuzzer input whose first byte picks one of several operations and whether a remote object leads the reply;
-// the rest is the reply.
-struct SelectedReply {
-    size_t operation;
-    bool leadingObject;
-    const uint8_t* data;
-    size_t size;
-};
-
-SelectedReply SelectReply(const uint8_t* data, size_t size, size_t operationCount);
 
 } // namespace Zelkon
 } // namespace OHOS

@@ -1,35 +1,24 @@
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <cstring>
 
-#include "reply_stub.h"
+#include "fuzz_harness.h"
 #include "share_srv_proxy.h"
 
-namespace {
-// A record is at least its id, two empty strings, its type and its time stamp.
-constexpr size_t SMALLEST_RECORD = 4 + 8 + 4 + 8 + 8;
-constexpr size_t MAX_RECORDS = 1000;
-} // namespace
-
+// A partial list is allowed, but never more records than the count announced, 1000, or the reply could hold: a
+// record is at least its id, two empty strings, its type and its time stamp.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    using namespace OHOS;
     using namespace OHOS::Zelkon;
-    static const sptr<ReplyStub> stub(new ReplyStub(u"ohos.Zelkon.ZelkonService"));
-    static const sptr<ShareSrvProxy> proxy = ProxyAnsweredBy<ShareSrvProxy>(stub);
-    stub->AnswerWith(data, size, false);
-    const std::vector<PermanentDeviceInfo> devices = proxy->GetPermanentDeviceList();
-    if (devices.empty()) {
+    constexpr size_t smallestRecord = 4 + 8 + 4 + 8 + 8;
+    const auto reply = AnswerWith<ShareSrvProxy>(data, size, 1);
+    const size_t devices = reply.proxy.GetPermanentDeviceList().size();
+    if (devices == 0) {
         return 0;
     }
-    // A partial list is allowed, but never more records than the count announced or the reply could hold.
-    // The reply holds the input padded to whole words.
     int32_t count = 0;
-    memcpy(&count, data, sizeof(count));
-    size_t replySize = (size + 3) & ~static_cast<size_t>(3);
-    if (devices.size() > MAX_RECORDS || devices.size() > static_cast<size_t>(count) ||
-        devices.size() * SMALLEST_RECORD > replySize - sizeof(count)) {
+    memcpy(&count, reply.data, sizeof(count));
+    // The reply holds the input padded to whole words.
+    const size_t replySize = (reply.size + 3) & ~static_cast<size_t>(3);
+    if (devices > 1000 || devices > static_cast<size_t>(count) || devices * smallestRecord > replySize - 4) {
         abort();
     }
     return 0;

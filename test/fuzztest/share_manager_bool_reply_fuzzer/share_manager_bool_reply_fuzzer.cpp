@@ -1,73 +1,54 @@
-#include <cstddef>
-#include <cstdint>
-#include <cstdlib>
 #include <functional>
 #include <vector>
 
-#include "fuzz_listener.h"
-#include "reply_stub.h"
+#include "fuzz_harness.h"
 #include "share_manager_srv_proxy.h"
 
-namespace {
-using namespace OHOS;
-using namespace OHOS::Zelkon;
-
-using Operation = std::function<bool(ShareManagerSrvProxy&)>;
-
-// Every request of the share manager whose reply is one flag (or, for GetEnableState, one integer: any value
-// is a possible state, so it is only read).
-const std::vector<Operation>& Operations()
-{
-    static const sptr<ZelkonWidgetServiceCallback> widget = MakeFuzzListener<ZelkonWidgetServiceCallback>();
-    static const sptr<ISenderActionCallback> sender = MakeFuzzListener<ISenderActionCallback>();
-    static const sptr<ZelkonApiCallback> api = MakeFuzzListener<ZelkonApiCallback>();
-    static const ShareDeviceInfo device;
-    static const DataBean dataBean;
-    static const BytesInfo bytesInfo;
-    static SendBean sendBean;
-    static const std::vector<Operation> operations = {
-        [](ShareManagerSrvProxy& p) { return p.SetShareEnable(1, 2, true); },
-        [](ShareManagerSrvProxy& p) { return p.SetShareEnableWithConfirm(1, 2, true, false); },
-        [](ShareManagerSrvProxy& p) { return p.IsEnabled(); },
-        [](ShareManagerSrvProxy& p) { return p.GetEnableState() != 0; },
-        [](ShareManagerSrvProxy& p) { return p.IsFocusPidsRegisterSwing(); },
-        [](ShareManagerSrvProxy& p) { return p.RegisterWidgetCallback(widget); },
-        [](ShareManagerSrvProxy& p) { return p.UnRegisterWidgetCallback(widget); },
-        [](ShareManagerSrvProxy& p) { return p.StartDiscovery(); },
-        [](ShareManagerSrvProxy& p) { return p.StopDiscovery(); },
-        [](ShareManagerSrvProxy& p) { return p.StartConnect(); },
-        [](ShareManagerSrvProxy& p) { return p.StopConnect(); },
-        [](ShareManagerSrvProxy& p) { return p.PrepareSend(device); },
-        [](ShareManagerSrvProxy& p) { return p.Send(device, sendBean, "com.example.share"); },
-        [](ShareManagerSrvProxy& p) { return p.SendFile(device, dataBean, "com.example.share"); },
-        [](ShareManagerSrvProxy& p) { return p.SendBytes(device, bytesInfo); },
-        [](ShareManagerSrvProxy& p) { return p.Cancel(device); },
-        [](ShareManagerSrvProxy& p) { return p.RegisterSenderActionCallback(sender); },
-        [](ShareManagerSrvProxy& p) { return p.UnRegisterSenderActionCallback(sender); },
-        [](ShareManagerSrvProxy& p) { return p.SetShareAccountPermission(1); },
-        [](ShareManagerSrvProxy& p) { return p.RegisterVxShareApiWidgetCallback(widget); },
-        [](ShareManagerSrvProxy& p) { return p.UnRegisterVxShareApiWidgetCallback(widget); },
-        [](ShareManagerSrvProxy& p) { return p.RegisterVxShareApiEvent("event"); },
-        [](ShareManagerSrvProxy& p) { return p.UnRegisterVxShareApiEvent("event"); },
-        [](ShareManagerSrvProxy& p) { return p.NotifyInfo(device, 1); },
-        [](ShareManagerSrvProxy& p) { return p.ApplyUriPermission("com.example.share"); },
-        [](ShareManagerSrvProxy& p) { return p.SwingConfirm(device, 1); },
-        [](ShareManagerSrvProxy& p) { return p.IsAppForeground("com.example.share"); },
-        [](ShareManagerSrvProxy& p) { return p.RegisterShareApiCallback(api); },
-        [](ShareManagerSrvProxy& p) { return p.UnregisterShareApiCallback(api); },
-        [](ShareManagerSrvProxy& p) { return p.RegisterShareEventCallback(1, 2); },
-        [](ShareManagerSrvProxy& p) { return p.UnregisterShareEventCallback(1, 2); },
-    };
-    return operations;
-}
-} // namespace
-
+// Every request of the share manager whose reply is one flag (or, for GetEnableState, one integer: any value is a
+// possible state, so it is only read).
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    static const sptr<ReplyStub> stub(new ReplyStub(u"ohos.Zelkon.IWidgetService"));
-    static const sptr<ShareManagerSrvProxy> proxy = ProxyAnsweredBy<ShareManagerSrvProxy>(stub);
-    const SelectedReply selected = SelectReply(data, size, Operations().size());
-    stub->AnswerWith(selected.data, selected.size, selected.leadingObject);
-    Operations()[selected.operation](*proxy);
+    using namespace OHOS::Zelkon;
+    using P = ShareManagerSrvProxy;
+    static const auto widget = FuzzListener<ZelkonWidgetServiceCallback>();
+    static const auto sender = FuzzListener<ISenderActionCallback>();
+    static const auto api = FuzzListener<ZelkonApiCallback>();
+    static const ShareDeviceInfo device;
+    static SendBean sendBean;
+    static const std::vector<std::function<bool(P&)>> operations = {
+        [](P& p) { return p.SetShareEnable(1, 2, true); },
+        [](P& p) { return p.SetShareEnableWithConfirm(1, 2, true, false); },
+        [](P& p) { return p.IsEnabled(); },
+        [](P& p) { return p.GetEnableState() != 0; },
+        [](P& p) { return p.IsFocusPidsRegisterSwing(); },
+        [](P& p) { return p.RegisterWidgetCallback(widget); },
+        [](P& p) { return p.UnRegisterWidgetCallback(widget); },
+        [](P& p) { return p.StartDiscovery(); },
+        [](P& p) { return p.StopDiscovery(); },
+        [](P& p) { return p.StartConnect(); },
+        [](P& p) { return p.StopConnect(); },
+        [](P& p) { return p.PrepareSend(device); },
+        [](P& p) { return p.Send(device, sendBean, "com.example.share"); },
+        [](P& p) { return p.SendFile(device, DataBean(), "com.example.share"); },
+        [](P& p) { return p.SendBytes(device, BytesInfo()); },
+        [](P& p) { return p.Cancel(device); },
+        [](P& p) { return p.RegisterSenderActionCallback(sender); },
+        [](P& p) { return p.UnRegisterSenderActionCallback(sender); },
+        [](P& p) { return p.SetShareAccountPermission(1); },
+        [](P& p) { return p.RegisterVxShareApiWidgetCallback(widget); },
+        [](P& p) { return p.UnRegisterVxShareApiWidgetCallback(widget); },
+        [](P& p) { return p.RegisterVxShareApiEvent("event"); },
+        [](P& p) { return p.UnRegisterVxShareApiEvent("event"); },
+        [](P& p) { return p.NotifyInfo(device, 1); },
+        [](P& p) { return p.ApplyUriPermission("com.example.share"); },
+        [](P& p) { return p.SwingConfirm(device, 1); },
+        [](P& p) { return p.IsAppForeground("com.example.share"); },
+        [](P& p) { return p.RegisterShareApiCallback(api); },
+        [](P& p) { return p.UnregisterShareApiCallback(api); },
+        [](P& p) { return p.RegisterShareEventCallback(1, 2); },
+        [](P& p) { return p.UnregisterShareEventCallback(1, 2); },
+    };
+    const auto reply = AnswerWith<P>(data, size, operations.size());
+    operations[reply.operation](reply.proxy);
     return 0;
 }

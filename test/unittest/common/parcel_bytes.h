@@ -1,6 +1,6 @@
 /*
- * Byte-level access to a parcel for tests: what it holds, and a parcel made to hold exactly some bytes (any length,
- * not only whole words).
+ * Byte-level access to a parcel for tests: what it holds, a parcel made to hold exactly some bytes (any length, not
+ * only whole words), and a parcel filled up to a given room.
  */
 #ifndef PARCEL_BYTES_H
 #define PARCEL_BYTES_H
@@ -39,6 +39,15 @@ inline void LoadBytes(Parcel& parcel, const std::vector<uint8_t>& bytes, size_t 
 inline void LoadBytes(Parcel& parcel, const std::vector<uint8_t>& bytes)
 {
     LoadBytes(parcel, bytes, bytes.size());
+}
+
+// Fills the parcel with zero bytes so that exactly room bytes (a multiple of 4) still fit under its limit.
+inline void FillLeaving(Parcel& parcel, size_t room)
+{
+    const std::vector<uint8_t> zeros(parcel.GetMaxCapacity() - parcel.GetDataSize() - room, 0);
+    if (!zeros.empty()) {
+        parcel.WriteBuffer(zeros.data(), zeros.size());
+    }
 }
 
 } // namespace OHOS

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "emulator_test_fixture.h"
+#include "sample_records.h"
 #include "share_manager_client.h"
 
 namespace OHOS {
@@ -39,63 +40,44 @@ private:
     std::vector<DecodedRequest> traced_;
 };
 
-ShareDeviceInfo DistinctDevice()
+// A device the emulator knows, every other field as the sample has it.
+ShareDeviceInfo KnownDevice()
 {
-    ShareDeviceInfo device;
-    device.deviceName = "Sam's tablet";
-    device.norvaneIdName = "sam@example.com";
-    device.avatar = "avatar-bytes";
-    device.colorId = 4;
-    device.eventCode = 5;
-    device.stateCode = 6;
-    device.percent = 7;
-    device.speed = 8;
-    device.isDisappeared = true;
-    device.deviceType = 17;
+    ShareDeviceInfo device = FilledDevice();
     device.deviceId = "dev-1002-tablet";
-    device.nearbyVersion = 10;
-    device.lastSharedTime = 1234567890123;
-    device.isSameAccount = false;
-    device.contactInfo.contactKind = 3;
-    device.contactInfo.contactName = "Sam";
-    device.contactInfo.contactPhoto = "photo-of-sam";
-    device.isOHDevice = true;
-    device.deviceFounder = 0xFFFFFFF0u;
-    device.concurentId = "cc-1";
-    device.extraValue = -9;
     return device;
 }
 
 TEST_F(EmulatorConformanceTest, DeviceRecordWrittenByTheLibraryDecodesFieldByField)
 {
-    ASSERT_TRUE(Manager().PrepareSend(DistinctDevice()));
+    ASSERT_TRUE(Manager().PrepareSend(KnownDevice()));
 
     const std::vector<DecodedRequest> traced = Traced();
     ASSERT_EQ(traced.size(), 1u);
     EXPECT_EQ(traced[0].operation, "PrepareSend");
     const Fields expected = {
         {"token", "\"ohos.Zelkon.IWidgetService\""},
-        {"deviceName", "\"Sam's tablet\""},
-        {"norvaneIdName", "\"sam@example.com\""},
-        {"avatar", "\"avatar-bytes\""},
-        {"colorId", "4"},
-        {"eventCode", "5"},
-        {"stateCode", "6"},
-        {"percent", "7"},
-        {"speed", "8"},
+        {"deviceName", "\"Living room tablet\""},
+        {"norvaneIdName", "\"ada@example\""},
+        {"avatar", "\"data:image/png;base64,iVBORw0KGgo=\""},
+        {"colorId", "3"},
+        {"eventCode", "101"},
+        {"stateCode", "2"},
+        {"percent", "57"},
+        {"speed", "1200"},
         {"isDisappeared", "true"},
         {"deviceType", "17"},
         {"deviceId", "\"dev-1002-tablet\""},
-        {"nearbyVersion", "10"},
-        {"lastSharedTime", "1234567890123"},
-        {"isSameAccount", "false"},
-        {"contact.kind", "3"},
-        {"contact.name", "\"Sam\""},
-        {"contact.photo", "\"photo-of-sam\""},
+        {"nearbyVersion", "9"},
+        {"lastSharedTime", "1763800000123"},
+        {"isSameAccount", "true"},
+        {"contact.kind", "1"},
+        {"contact.name", "\"Ada\""},
+        {"contact.photo", "\"photo\""},
         {"isOHDevice", "true"},
-        {"deviceFounder", "4294967280"},
-        {"concurentId", "\"cc-1\""},
-        {"extraValue", "-9"},
+        {"deviceFounder", "2147483649"},
+        {"concurentId", "\"c-42\""},
+        {"extraValue", "-7"},
     };
     EXPECT_EQ(traced[0].fields, expected);
 }
@@ -131,11 +113,11 @@ TEST_F(EmulatorConformanceTest, AccountAndPreviewReadAsTheEmulatorWroteThem)
 
 TEST_F(EmulatorConformanceTest, SendFileRequestDecodesWithItsRecordsAndPackageName)
 {
-    ASSERT_TRUE(Manager().PrepareSend(DistinctDevice()));
+    ASSERT_TRUE(Manager().PrepareSend(KnownDevice()));
     SendBean sendBean;
     sendBean.previewText = "2 photos";
     sendBean.files = {{"file:///a.jpg", "a.jpg", 10}, {"file:///b.jpg", "b.jpg", 20}};
-    ASSERT_TRUE(Manager().Send(DistinctDevice(), sendBean, "com.example.test"));
+    ASSERT_TRUE(Manager().Send(KnownDevice(), sendBean, "com.example.test"));
 
     const std::vector<DecodedRequest> traced = Traced();
     ASSERT_EQ(traced.size(), 2u);

@@ -68,30 +68,6 @@ protected:
     sptr<IRemoteObject> shareManager_;
 };
 
-// Writes a device record of the share manager service field by field; the device id is its key.
-inline void WriteDeviceRecord(MessageParcel& data, const std::string& deviceId)
-{
-    data.WriteString("name");
-    data.WriteString("account");
-    data.WriteString("avatar");
-    for (int i = 0; i < 5; ++i) {
-        data.WriteInt32(i);
-    }
-    data.WriteBool(false);
-    data.WriteInt32(14);
-    data.WriteString(deviceId);
-    data.WriteInt32(9);
-    data.WriteInt64(1);
-    data.WriteBool(true);
-    data.WriteInt32(1);
-    data.WriteString("contact");
-    data.WriteString("photo");
-    data.WriteBool(true);
-    data.WriteUint32(7);
-    data.WriteString("concurrent");
-    data.WriteInt32(0);
-}
-
 } // namespace Zelkon
 } // namespace OHOS
 

@@ -1,5 +1,5 @@
-// Strong and weak counts, the callbacks, destruction exactly once on the last strong reference, and what a weak
-// reference can still do afterwards.
+// Destruction exactly once on the last strong reference, whichever way it goes, and promotion of a weak reference
+// while the object is held and after it is gone.
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -11,52 +11,6 @@
 
 namespace OHOS {
 namespace {
-
-constexpr int NEVER_HELD = 1 << 28;
-
-class DerivedObject : public TrackedObject {
-public:
-    using TrackedObject::TrackedObject;
-};
-
-TEST(RefBaseTest, AFreshObjectWasNeverHeld)
-{
-    Lifecycle lifecycle;
-    auto* object = new TrackedObject(lifecycle);
-    EXPECT_EQ(object->GetSptrRefCount(), NEVER_HELD);
-    EXPECT_EQ(object->GetWptrRefCount(), 0);
-    EXPECT_FALSE(object->IsExtendedLifetime());
-    delete object;
-    EXPECT_EQ(lifecycle.firstStrong.load(), 0);
-    EXPECT_EQ(lifecycle.destroyed.load(), 1);
-}
-
-TEST(RefBaseTest, StrongCountFollowsCopiesMovesAndConversions)
-{
-    Lifecycle lifecycle;
-    sptr<TrackedObject> first = sptr<TrackedObject>::MakeSptr(lifecycle);
-    EXPECT_EQ(first->GetSptrRefCount(), 1);
-    EXPECT_EQ(lifecycle.firstStrong.load(), 1);
-    {
-        sptr<TrackedObject> copy(first);
-        EXPECT_EQ(first->GetSptrRefCount(), 2);
-        sptr<TrackedObject> moved(std::move(copy));
-        EXPECT_EQ(copy, nullptr);
-        EXPECT_EQ(first->GetSptrRefCount(), 2);
-        sptr<RefBase> base(first);
-        EXPECT_EQ(first->GetSptrRefCount(), 3);
-        sptr<RefBase> movedBase(std::move(moved));
-        EXPECT_EQ(moved, nullptr);
-        EXPECT_EQ(first->GetSptrRefCount(), 3);
-        sptr<TrackedObject> assigned;
-        assigned = first;
-        EXPECT_EQ(first->GetSptrRefCount(), 4);
-    }
-    EXPECT_EQ(first->GetSptrRefCount(), 1);
-    EXPECT_EQ(lifecycle.firstStrong.load(), 1);
-    EXPECT_EQ(lifecycle.lastStrong.load(), 0);
-    EXPECT_EQ(lifecycle.destroyed.load(), 0);
-}
 
 TEST(RefBaseTest, TheLastStrongReferenceDestroysTheObjectOnceWhicheverWayItGoes)
 {
@@ -113,33 +67,6 @@ TEST(RefBaseTest, PromoteGivesAStrongReferenceWhileTheObjectIsHeld)
     }
     EXPECT_EQ(lifecycle.destroyed.load(), 1);
     EXPECT_EQ(weak.promote(), nullptr);
-}
-
-TEST(RefBaseTest, PromotingANeverHeldObjectHandsItOver)
-{
-    Lifecycle lifecycle;
-    wptr<TrackedObject> weak(new TrackedObject(lifecycle));
-    {
-        sptr<TrackedObject> promoted = weak.promote();
-        ASSERT_NE(promoted, nullptr);
-        EXPECT_EQ(promoted->GetSptrRefCount(), 1);
-    }
-    EXPECT_EQ(lifecycle.destroyed.load(), 1);
-    EXPECT_EQ(weak.promote(), nullptr);
-}
-
-TEST(RefBaseTest, AWeakReferenceOutlivingANeverHeldObjectCannotPromote)
-{
-    Lifecycle lifecycle;
-    wptr<TrackedObject> weak;
-    {
-        TrackedObject local(lifecycle);
-        weak = &local;
-        EXPECT_EQ(weak.GetRefPtr(), &local);
-    }
-    EXPECT_EQ(weak.GetRefPtr(), nullptr);
-    EXPECT_EQ(weak.promote(), nullptr);
-    EXPECT_EQ(lifecycle.destroyed.load(), 1);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 /*
  * A reference-counted object that records its lifecycle callbacks and its destruction, for the reference counting
- * tests. The counters are atomic so that racing threads can share them.
+ * tests.
  */
 #ifndef TRACKED_OBJECT_H
 #define TRACKED_OBJECT_H
@@ -14,7 +14,6 @@ namespace OHOS {
 struct Lifecycle {
     std::atomic<int> firstStrong{0};
     std::atomic<int> lastStrong{0};
-    std::atomic<int> lastWeak{0};
     std::atomic<int> destroyed{0};
 };
 
@@ -31,7 +30,6 @@ public:
 
     void OnFirstStrongRef(const void*) override { ++lifecycle_.firstStrong; }
     void OnLastStrongRef(const void*) override { ++lifecycle_.lastStrong; }
-    void OnLastWeakRef(const void*) override { ++lifecycle_.lastWeak; }
 
     // ALIVE until the destructor ran.
     int State() const { return state_; }

@@ -1,6 +1,6 @@
 /*
  * The client's connection under scripted loads and deaths: how long Connect waits, when it asks for a new load,
- * and what a death notice does.
+ * what a death notice does, and that each service is watched once.
  */
 #include <chrono>
 #include <memory>
@@ -29,66 +29,52 @@ protected:
         ASSERT_TRUE(SamgrHostControl::KillSystemAbility(SHARE_SERVICE_SA_ID));
         ASSERT_TRUE(callback->WaitForCount(1));
     }
+
+    const LogLine timeout_{CLIENT_TAG, LOG_ERROR, "Load zelkon SA after 200ms but still can not get it."};
 };
 
-TEST_F(ShareClientConnectionTest, ALoadThatSucceedsBeforeTheDeadlineEndsTheWaitAtOnce)
+TEST_F(ShareClientConnectionTest, ALoadEndsTheWaitAtOnceAndAConnectedClientAsksForNothing)
 {
     SamgrHostControl::ScriptLoads({LoadScript::Outcome::SUCCEED, milliseconds(30)});
-    auto start = Clock::now();
+    const auto start = Clock::now();
     EXPECT_EQ(Client().Connect(), 0);
     EXPECT_LT(Elapsed(start), ShareClient::CONNECT_TIMEOUT);
-    int loads = Loads();
+    const int loads = Loads();
     EXPECT_EQ(Client().Connect(), 0);
-    EXPECT_EQ(Loads(), loads) << "a connected client asks for nothing";
+    EXPECT_EQ(Loads(), loads);
+    ExpectLines(log_, {{CLIENT_TAG, LOG_INFO, "LoadShareSa invoked."},
+                       {CLIENT_TAG, LOG_INFO, "OnLoadSystemAbilitySuccess invoked: 65569"},
+                       {CLIENT_TAG, LOG_INFO, "shareProxy_ is already exists."}});
+    EXPECT_EQ(ErrorLines(log_, CLIENT_TAG), 0u);
 }
 
-TEST_F(ShareClientConnectionTest, ASuccessForAnotherIdOrWithoutObjectIsIgnored)
+TEST_F(ShareClientConnectionTest, ALoadThatBringsNoServiceEndsAtTheDeadlineAndTheNextConnectAsksAgain)
 {
-    for (LoadScript::Outcome outcome : {LoadScript::Outcome::OTHER_ID, LoadScript::Outcome::NULL_OBJECT}) {
+    for (LoadScript::Outcome outcome :
+         {LoadScript::Outcome::OTHER_ID, LoadScript::Outcome::NULL_OBJECT, LoadScript::Outcome::FAIL}) {
         LoadScript script;
         script.outcome = outcome;
         script.otherId = SHARE_SERVICE_SA_ID + 1;
         SamgrHostControl::ScriptLoads(script);
-        auto start = Clock::now();
+        log_.Clear();
+        const int loads = Loads();
+        const auto start = Clock::now();
         EXPECT_EQ(Client().Connect(), -1);
         EXPECT_GE(Elapsed(start), ShareClient::CONNECT_TIMEOUT);
-        // Leave the client wanting a new load for the next round.
-        Client().SetLoadShareSaFailed();
+        EXPECT_EQ(Loads(), loads + 1);
+        ExpectLines(log_, {timeout_});
     }
-}
-
-TEST_F(ShareClientConnectionTest, AFailureWhileWaitingStillWaitsAndTheNextConnectLoadsAgain)
-{
-    SamgrHostControl::ScriptLoads({LoadScript::Outcome::FAIL, milliseconds(20)});
-    int loads = Loads();
-    auto start = Clock::now();
-    EXPECT_EQ(Client().Connect(), -1);
-    EXPECT_GE(Elapsed(start), ShareClient::CONNECT_TIMEOUT);
     EXPECT_EQ(Client().Connect(), 0);
-    EXPECT_EQ(Loads(), loads + 2);
-}
-
-TEST_F(ShareClientConnectionTest, ARefusedLoadFailsAtOnceAndEveryConnectAsksAgain)
-{
-    LoadScript refuse;
-    refuse.outcome = LoadScript::Outcome::REFUSE;
-    SamgrHostControl::ScriptLoads(refuse, 2);
-    int loads = Loads();
-    auto start = Clock::now();
-    EXPECT_EQ(Client().Connect(), -1);
-    EXPECT_EQ(Client().Connect(), -1);
-    EXPECT_LT(Elapsed(start), ShareClient::CONNECT_TIMEOUT);
-    EXPECT_EQ(Client().Connect(), 0);
-    EXPECT_EQ(Loads(), loads + 3);
 }
 
 TEST_F(ShareClientConnectionTest, ARefusedDeathRecipientLeavesTheClientWithoutProxy)
 {
     SamgrHostControl::SetDeathRecipientsRefused(true);
     EXPECT_EQ(Client().Connect(), -1);
-    EXPECT_TRUE(stub_->Codes().empty());
+    ExpectLines(log_, {{CLIENT_TAG, LOG_ERROR, "Add death recipient to share service failed"}, timeout_});
     SamgrHostControl::SetDeathRecipientsRefused(false);
     EXPECT_EQ(Client().EnableDiscoveryPolicy(1), 1);
+    EXPECT_EQ(stub_->Codes(), std::vector<uint32_t>{11});
 }
 
 TEST_F(ShareClientConnectionTest, DeathDropsTheProxyTellsTheCallbackOnceAndTheNextCallReloads)
@@ -97,14 +83,33 @@ TEST_F(ShareClientConnectionTest, DeathDropsTheProxyTellsTheCallbackOnceAndTheNe
     ConnectThenKill(callback);
     SamgrHostControl::Reset();
     EXPECT_EQ(callback->Count(), 1);
+    EXPECT_EQ(Logged({CLIENT_TAG, LOG_DEBUG, "Recv death notice"}), 1u);
     sptr<ScriptedStub> reloaded = new ScriptedStub(ZelkonService::GetDescriptor());
-    SamgrHostControl::RegisterLoader(SHARE_SERVICE_SA_ID, [reloaded] { return sptr<IRemoteObject>(reloaded); });
+    RegisterShareService(reloaded);
     EXPECT_EQ(Client().EnableDiscoveryPolicy(2), 1);
     EXPECT_EQ(Loads(), 1);
     EXPECT_EQ(reloaded->Codes(), std::vector<uint32_t>{11});
 }
 
-TEST_F(ShareClientConnectionTest, ADeathNoticeForAnotherObjectKeepsTheProxy)
+TEST_F(ShareClientConnectionTest, EachServiceIsWatchedOnceHoweverOftenItIsHandedOver)
+{
+    auto callback = std::make_shared<CountingDiedCallback>();
+    Client().RegisterDiedCallback(callback);
+    ASSERT_EQ(Client().Connect(), 0);
+    // The same service handed over again, as concurrent loads do.
+    Client().SetShareSa(RunningShareService());
+    // The proxy dropped by hand and the service loaded again: the first watch was released with the proxy.
+    Client().ResetProxy(RunningShareService());
+    const int loads = Loads();
+    ASSERT_EQ(Client().Connect(), 0);
+    EXPECT_EQ(Loads(), loads + 1);
+    ASSERT_TRUE(SamgrHostControl::KillSystemAbility(SHARE_SERVICE_SA_ID));
+    ASSERT_TRUE(callback->WaitForCount(1));
+    IpcThreads::Drain();
+    EXPECT_EQ(callback->Count(), 1);
+}
+
+TEST_F(ShareClientConnectionTest, ADeathNoticeForAnotherObjectOrAReleasedOneKeepsTheProxy)
 {
     ASSERT_EQ(Client().Connect(), 0);
     auto callback = std::make_shared<CountingDiedCallback>();
@@ -112,45 +117,18 @@ TEST_F(ShareClientConnectionTest, ADeathNoticeForAnotherObjectKeepsTheProxy)
     recipient->SetSaDiedCallback(callback);
     sptr<IRemoteObject> other = new ScriptedStub(u"test.Other");
     recipient->OnRemoteDied(other);
-    Client().ResetProxy(other);
     EXPECT_EQ(callback->Count(), 1) << "the callback hears every notice";
-    int loads = Loads();
-    EXPECT_EQ(Client().Connect(), 0);
-    EXPECT_EQ(Loads(), loads);
-}
-
-TEST_F(ShareClientConnectionTest, ADeathNoticeForAReleasedObjectChangesNothing)
-{
-    ASSERT_EQ(Client().Connect(), 0);
-    auto callback = std::make_shared<CountingDiedCallback>();
-    sptr<ShareClient::ShareDeathRecipient> recipient = new ShareClient::ShareDeathRecipient();
-    recipient->SetSaDiedCallback(callback);
     wptr<IRemoteObject> released;
     {
         sptr<IRemoteObject> gone = new ScriptedStub(u"test.Gone");
         released = gone;
     }
     recipient->OnRemoteDied(released);
-    EXPECT_EQ(callback->Count(), 0);
-    int loads = Loads();
+    EXPECT_EQ(callback->Count(), 1);
+    EXPECT_EQ(Logged({CLIENT_TAG, LOG_ERROR, "OnRemoteDied failed, remote is nullptr"}), 1u);
+    const int loads = Loads();
     EXPECT_EQ(Client().Connect(), 0);
     EXPECT_EQ(Loads(), loads);
-}
-
-TEST_F(ShareClientConnectionTest, ADiedCallbackReleasedByItsOwnerIsNotCalled)
-{
-    ASSERT_EQ(Client().Connect(), 0);
-    auto callback = std::make_shared<CountingDiedCallback>();
-    Client().RegisterDiedCallback(callback);
-    std::weak_ptr<CountingDiedCallback> watch = callback;
-    callback.reset();
-    ASSERT_TRUE(SamgrHostControl::KillSystemAbility(SHARE_SERVICE_SA_ID));
-    SamgrHostControl::Reset();
-    EXPECT_TRUE(watch.expired());
-    sptr<ScriptedStub> reloaded = new ScriptedStub(ZelkonService::GetDescriptor());
-    SamgrHostControl::RegisterLoader(SHARE_SERVICE_SA_ID, [reloaded] { return sptr<IRemoteObject>(reloaded); });
-    EXPECT_EQ(Client().Connect(), 0);
-    EXPECT_EQ(Loads(), 1) << "the proxy was dropped all the same";
 }
 
 TEST_F(ShareClientConnectionTest, ADiedCallbackMayCallTheClient)

@@ -1,31 +1,33 @@
 /*
  * The share service as the client meets it on a device: a scripted stub loaded on demand by the host system
  * ability manager. Every test starts from a client that has no proxy and will load the service at its next
- * Connect, and ends by killing the service so that the next test starts the same way.
+ * Connect, with the log lines of the start cleared, and ends by killing the service so that the next test starts
+ * the same way.
  */
 #ifndef SHARE_SERVICE_HARNESS_H
 #define SHARE_SERVICE_HARNESS_H
 
+#include <algorithm>
 #include <functional>
-#include <memory>
 #include <utility>
 
 #include <gtest/gtest.h>
 
+#include "hilog/log_capture.h"
 #include "ipc_threads.h"
-#include "iremote_stub.h"
+#include "iservice_registry.h"
+#include "log_line.h"
 #include "notice_counter.h"
 #include "samgr_host_control.h"
 #include "scripted_stub.h"
 #include "share_client.h"
+#include "test_remote.h"
 
 namespace OHOS {
 namespace Zelkon {
 
-// A caller's listener or callback: a local object whose remote object travels in the requests.
-template <typename Interface>
-class TestRemote : public IRemoteStub<Interface> {
-};
+inline constexpr const char* CLIENT_TAG = "ShareClient";
+inline constexpr const char* PROXY_TAG = "ShareProxy";
 
 // Counts died notices and lets a test wait for one; an optional action runs inside OnShareSaDied.
 class CountingDiedCallback : public ShareSaDiedCallback, public NoticeCounter {
@@ -44,34 +46,60 @@ private:
     std::function<void()> action_;
 };
 
+// Every load of the share service that is not running starts the stub.
+inline void RegisterShareService(const sptr<ScriptedStub>& stub)
+{
+    SamgrHostControl::RegisterLoader(SHARE_SERVICE_SA_ID, [stub] { return sptr<IRemoteObject>(stub); });
+}
+
+// The next loads are refused at once, so that the service stays absent without a wait.
+inline void RefuseShareLoads(int count)
+{
+    LoadScript refuse;
+    refuse.outcome = LoadScript::Outcome::REFUSE;
+    SamgrHostControl::ScriptLoads(refuse, count);
+}
+
+inline sptr<IRemoteObject> RunningShareService()
+{
+    return SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager()->CheckSystemAbility(SHARE_SERVICE_SA_ID);
+}
+
 class ShareServiceTest : public testing::Test {
 protected:
     void SetUp() override
     {
         SamgrHostControl::Reset();
         stub_ = new ScriptedStub(ZelkonService::GetDescriptor());
-        sptr<ScriptedStub> stub = stub_;
-        SamgrHostControl::RegisterLoader(SHARE_SERVICE_SA_ID, [stub] { return sptr<IRemoteObject>(stub); });
-        // Every test starts from a client whose service has died: the first test of a process would otherwise
-        // meet the constructor's own load.
+        RegisterShareService(stub_);
+        // The first test of a process would otherwise meet the constructor's own load.
         Client().Connect();
         SamgrHostControl::KillSystemAbility(SHARE_SERVICE_SA_ID);
         IpcThreads::Drain();
+        log_.Clear();
     }
 
     void TearDown() override
     {
-        ShareClient::GetInstance().RegisterDiedCallback(nullptr);
+        Client().RegisterDiedCallback(nullptr);
         SamgrHostControl::KillSystemAbility(SHARE_SERVICE_SA_ID);
         // Delivers the death notice, so the client has dropped its proxy before the next test.
         SamgrHostControl::Reset();
     }
 
     static ShareClient& Client() { return ShareClient::GetInstance(); }
-
     static int Loads() { return SamgrHostControl::LoadCount(SHARE_SERVICE_SA_ID); }
 
+    size_t Received(uint32_t code) const
+    {
+        const std::vector<uint32_t> codes = stub_->Codes();
+        return static_cast<size_t>(std::count(codes.begin(), codes.end(), code));
+    }
+
+    size_t Logged(const LogLine& line) const { return Zelkon::Logged(log_, line); }
+
     sptr<ScriptedStub> stub_;
+    HiviewDFX::ScopedLogCapture log_;
 };
 
 } // namespace Zelkon

@@ -1,8 +1,10 @@
 /*
- * How the client finds the share manager service, watches it and lets it go: lookups without loading, refused
- * death recipients, a missing proxy creator, deaths of the current and of an older service, reconnecting.
+ * How the client finds the share manager service, watches it and lets it go: a kept proxy, no system ability
+ * manager, refused death recipients, a missing proxy creator, deaths of the current and of an older service.
  */
 #include <memory>
+
+#include "ipc_threads.h"
 
 #include "share_manager_harness.h"
 #include "share_manager_srv_proxy.h"
@@ -19,76 +21,48 @@ protected:
         ASSERT_TRUE(SamgrHostControl::KillSystemAbility(SHARE_MANAGER_SA_ID));
         ASSERT_TRUE(callback->WaitForCount(deaths));
     }
+
+    static sptr<IRemoteObject> Current() { return Client().GetShareManagerSrvProxy()->AsObject(); }
 };
-
-TEST_F(ShareManagerConnectionTest, ServiceNotRunningIsLookedUpAgainOnEveryCall)
-{
-    ASSERT_TRUE(SamgrHostControl::KillSystemAbility(SHARE_MANAGER_SA_ID));
-    SamgrHostControl::Reset();
-    LogCapture::Clear();
-    for (int call = 1; call <= 3; ++call) {
-        EXPECT_EQ(Client().GetShareManagerSrvProxy(), nullptr);
-        EXPECT_EQ(Lookups(), call);
-        EXPECT_EQ(LogCapture::Count(CLIENT_TAG, "CheckSystemAbility failed", LOG_ERROR), call);
-        EXPECT_EQ(LogCapture::Count(CLIENT_TAG, "Get ShareWidgetService failed.", LOG_ERROR), call);
-    }
-    EXPECT_FALSE(Client().StartConnect());
-    EXPECT_TRUE(LogCapture::Has(CLIENT_TAG, "StartConnect shareManagerSrvProxy_ is nullptr", LOG_ERROR));
-    EXPECT_TRUE(Client().GetAllUserList().empty());
-    EXPECT_TRUE(LogCapture::Has(CLIENT_TAG, "GetAllUserList shareManagerSrvProxy_ is nullptr", LOG_ERROR));
-    EXPECT_FALSE(Client().IsEnabled());
-    EXPECT_TRUE(LogCapture::Has(CLIENT_TAG, "shareManagerSrvProxy_ is nullptr", LOG_ERROR));
-
-    // ApplyUriPermission connects itself and logs the connection failure only.
-    LogCapture::Clear();
-    EXPECT_FALSE(Client().ApplyUriPermission("com.example"));
-    EXPECT_EQ(LogCapture::Count(CLIENT_TAG, "Get ShareWidgetService failed.", LOG_ERROR), 1);
-    EXPECT_EQ(LogCapture::Count(CLIENT_TAG, "shareManagerSrvProxy_ is nullptr", LOG_ERROR), 0);
-
-    // Started later, the service is found by the next call.
-    stub_ = StartService();
-    EXPECT_TRUE(Client().IsEnabled());
-}
 
 TEST_F(ShareManagerConnectionTest, ASecondConnectKeepsTheProxyWithoutALookup)
 {
     EXPECT_EQ(Client().Connect(), 0);
-    EXPECT_TRUE(LogCapture::Has(CLIENT_TAG, "Connecting WidgetService success", LOG_DEBUG));
     sptr<IWidgetService> first = Client().GetShareManagerSrvProxy();
     ASSERT_NE(first, nullptr);
     EXPECT_EQ(Client().Connect(), 0);
     EXPECT_EQ(Client().GetShareManagerSrvProxy(), first);
-    EXPECT_EQ(Lookups(), 1);
-    EXPECT_TRUE(LogCapture::Has(CLIENT_TAG, "shareManagerSrvProxy already exists.", LOG_INFO));
+    EXPECT_EQ(SamgrHostControl::LookupCount(SHARE_MANAGER_SA_ID), 1);
+    // Every call after the first finds the proxy: the two lookups of the proxy connect, too.
+    const LogLine kept{CLIENT_TAG, LOG_INFO, "shareManagerSrvProxy already exists."};
+    ExpectLines(log_, {{CLIENT_TAG, LOG_DEBUG, "Connecting WidgetService success"}, kept, kept, kept});
 }
 
-TEST_F(ShareManagerConnectionTest, NoSystemAbilityManagerFailsTheConnection)
+TEST_F(ShareManagerConnectionTest, NoSystemAbilityManagerOrARefusedDeathRecipientLeavesNoProxy)
 {
     SamgrHostControl::SetManagerUnavailable(true);
     EXPECT_EQ(Client().Connect(), -1);
-    EXPECT_TRUE(LogCapture::Has(CLIENT_TAG, "GetSystemAbilityManager failed", LOG_ERROR));
     SamgrHostControl::SetManagerUnavailable(false);
-}
-
-TEST_F(ShareManagerConnectionTest, RefusedDeathRecipientLeavesNoProxy)
-{
     SamgrHostControl::SetDeathRecipientsRefused(true);
     EXPECT_EQ(Client().Connect(), -1);
-    EXPECT_TRUE(LogCapture::Has(CLIENT_TAG, "Add death recipient to share service failed", LOG_ERROR));
     EXPECT_FALSE(Client().IsEnabled());
+    ExpectLines(log_, {{CLIENT_TAG, LOG_ERROR, "GetSystemAbilityManager failed"},
+                       {CLIENT_TAG, LOG_ERROR, "Add death recipient to share service failed"},
+                       {CLIENT_TAG, LOG_ERROR, "Add death recipient to share service failed"}});
     EXPECT_TRUE(stub_->Codes().empty());
     SamgrHostControl::SetDeathRecipientsRefused(false);
     EXPECT_TRUE(Client().IsEnabled());
 }
 
-TEST_F(ShareManagerConnectionTest, MissingProxyCreatorConnectsButHandsOutNull)
+TEST_F(ShareManagerConnectionTest, AMissingProxyCreatorConnectsButHandsOutNull)
 {
     // Take the creator away while this test runs; the registry accepts it again afterwards.
     BrokerRegistration::Get().Unregister(IWidgetService::GetDescriptor());
     EXPECT_EQ(Client().Connect(), 0);
-    EXPECT_TRUE(LogCapture::Has(CLIENT_TAG, "Connecting WidgetService success", LOG_DEBUG));
     EXPECT_EQ(Client().GetShareManagerSrvProxy(), nullptr);
     EXPECT_FALSE(Client().IsEnabled());
+    EXPECT_FALSE(Client().ApplyUriPermission("com.example"));
+    EXPECT_EQ(Logged({CLIENT_TAG, LOG_ERROR, "shareManagerSrvProxy_ is nullptr"}), 2u);
     BrokerRegistration::Get().Register(IWidgetService::GetDescriptor(), BrokerCreator<ShareManagerSrvProxy>(), nullptr);
     EXPECT_TRUE(Client().IsEnabled());
 }
@@ -100,6 +74,7 @@ TEST_F(ShareManagerConnectionTest, DeathDropsTheProxyTellsTheCallerAndReconnectW
     ASSERT_TRUE(Client().IsEnabled());
     KillAndWait(callback, 1);
     EXPECT_FALSE(Client().IsEnabled());
+    EXPECT_EQ(Logged({CLIENT_TAG, LOG_DEBUG, "Recv death notice"}), 1u);
 
     stub_ = StartService();
     ASSERT_TRUE(Client().IsEnabled());
@@ -108,18 +83,27 @@ TEST_F(ShareManagerConnectionTest, DeathDropsTheProxyTellsTheCallerAndReconnectW
     EXPECT_EQ(Client().GetShareManagerSrvProxy(), nullptr);
 }
 
+TEST_F(ShareManagerConnectionTest, EachServiceIsWatchedOnceAfterTheProxyWasDroppedByHand)
+{
+    auto callback = std::make_shared<CountingDiedCallback>();
+    Client().RegisterDiedCallback(callback);
+    ASSERT_EQ(Client().Connect(), 0);
+    Client().ResetProxy(Current());
+    ASSERT_EQ(Client().Connect(), 0);
+    KillAndWait(callback, 1);
+    IpcThreads::Drain();
+    EXPECT_EQ(callback->Count(), 1);
+}
+
 TEST_F(ShareManagerConnectionTest, DeathOfAnOlderServiceKeepsTheCurrentProxy)
 {
     auto callback = std::make_shared<CountingDiedCallback>();
     Client().RegisterDiedCallback(callback);
     ASSERT_EQ(Client().Connect(), 0);
     sptr<IWidgetService> old = Client().GetShareManagerSrvProxy();
-    ASSERT_NE(old, nullptr);
     sptr<IRemoteObject> oldObject = old->AsObject();
-
     // A stale notice for an object the client no longer talks to changes nothing.
-    sptr<IRemoteObject> other = new ScriptedStub(IWidgetService::GetDescriptor());
-    Client().ResetProxy(other);
+    Client().ResetProxy(sptr<IRemoteObject>(new ScriptedStub(IWidgetService::GetDescriptor())));
     EXPECT_EQ(Client().GetShareManagerSrvProxy(), old);
 
     KillAndWait(callback, 1);
@@ -131,29 +115,17 @@ TEST_F(ShareManagerConnectionTest, DeathOfAnOlderServiceKeepsTheCurrentProxy)
     EXPECT_EQ(Client().GetShareManagerSrvProxy(), current);
 }
 
-TEST_F(ShareManagerConnectionTest, DiedCallbackReleasedByItsOwnerIsNotCalled)
+TEST_F(ShareManagerConnectionTest, ADiedCallbackReleasedByItsOwnerIsNotCalled)
 {
     auto callback = std::make_shared<CountingDiedCallback>();
     Client().RegisterDiedCallback(callback);
     std::weak_ptr<CountingDiedCallback> watched = callback;
     callback.reset();
-    ASSERT_TRUE(watched.expired());
     ASSERT_TRUE(Client().IsEnabled());
     ASSERT_TRUE(SamgrHostControl::KillSystemAbility(SHARE_MANAGER_SA_ID));
     SamgrHostControl::Reset();
-    EXPECT_TRUE(LogCapture::Has(CLIENT_TAG, "Recv death notice", LOG_DEBUG));
+    EXPECT_TRUE(watched.expired());
     EXPECT_EQ(Client().GetShareManagerSrvProxy(), nullptr);
-}
-
-TEST_F(ShareManagerConnectionTest, DeathNoticeWithoutRemoteChangesNothing)
-{
-    ASSERT_EQ(Client().Connect(), 0);
-    sptr<IWidgetService> proxy = Client().GetShareManagerSrvProxy();
-    sptr<ShareManagerClient::ShareManagerDeathRecipient> recipient =
-        new ShareManagerClient::ShareManagerDeathRecipient();
-    recipient->OnRemoteDied(nullptr);
-    EXPECT_TRUE(LogCapture::Has(CLIENT_TAG, "OnRemoteDied failed, remote is nullptr", LOG_ERROR));
-    EXPECT_EQ(Client().GetShareManagerSrvProxy(), proxy);
 }
 
 } // namespace

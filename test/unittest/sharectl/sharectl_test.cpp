@@ -123,7 +123,8 @@ const std::vector<Case> CASES = {
     {"SendEmptyInput", "send-file -", "", 2, "standard input is empty: there is nothing to send"},
     {"SendInput", "send-file -", "hello", 0, "standard input (5 bytes), the service read 5 bytes"},
     {"FullDevice", "list > /dev/full", "", 1, "cannot write the output: No space left on device"},
-    {"FaultLoadFails", "--fault load-fail call Publish", "", 0, "Publish -> 0 (refused, or the call failed"},
+    // Two failed loads: the first use loads once, and a Connect that hears of the failure first asks once more.
+    {"FaultLoadFails", "--fault load-fail:2 call Publish", "", 0, "Publish -> 0 (refused, or the call failed"},
     {"FaultLoadLate", "--fault load-delay:300 call Publish", "", 0, "Load zelkon SA after 200ms"},
     {"FaultDiesInRequest", "--fault die-in:26 call GetPermanentDeviceList", "", 0,
      "SendRequest is failed, error code: 32"},

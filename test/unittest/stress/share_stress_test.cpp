@@ -1,14 +1,16 @@
 /*
- * Both clients under load while their services die and come back: 8 threads call a mix of operations of both
- * clients while another thread kills and restarts both services a few hundred times and registers, replaces and
- * releases the died callbacks. Every call must give its result or the neutral one, nothing may hang (a watchdog
- * aborts), and each died callback must run once per death of the object its client was connected to.
+ * Both clients under load while the emulated services die and come back: 8 threads call a mix of operations of
+ * both clients while another thread kills and restarts both services a few hundred times and registers, replaces
+ * and releases the died callbacks. Every call must give the fresh service's answer or the neutral one, nothing may
+ * hang (a watchdog aborts), and each died callback must run once per death of the object its client was connected
+ * to.
  */
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -20,8 +22,8 @@
 #include "ipc_threads.h"
 #include "samgr_host_control.h"
 #include "share_client.h"
+#include "share_emulator.h"
 #include "share_manager_client.h"
-#include "stress_services.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -32,6 +34,63 @@ constexpr int CALLS_PER_WORKER = 300;
 constexpr int RESTARTS = 200;
 constexpr int CONNECT_ATTEMPTS = 100;
 constexpr std::chrono::seconds WATCHDOG_LIMIT{60};
+
+ShareClient& Share()
+{
+    return ShareClient::GetInstance();
+}
+
+ShareManagerClient& Manager()
+{
+    return ShareManagerClient::GetInstance();
+}
+
+// One operation: true when the caller got what a fresh service answers, or the neutral result.
+struct Call {
+    const char* name;
+    std::function<bool()> answered;
+};
+
+const std::vector<Call> CALLS = {
+    {"EnableDiscoveryPolicy",
+     [] {
+         const int32_t result = Share().EnableDiscoveryPolicy(1);
+         return result == 1 || result == 0;
+     }},
+    {"GetPontalPublishInfo",
+     [] {
+         std::string info = "untouched";
+         const int32_t result = Share().GetPontalPublishInfo(info);
+         return (result == 1 && info.find("Emulated host") != std::string::npos) ||
+                (result == 0 && info == "untouched");
+     }},
+    {"GetPermanentDeviceList",
+     [] {
+         const size_t count = Share().GetPermanentDeviceList().size();
+         return count == 3 || count == 0;
+     }},
+    {"GetEnableState",
+     [] {
+         const int32_t state = Manager().GetEnableState();
+         return state == 1 || state == 0;
+     }},
+    {"GetAllUserList",
+     [] {
+         const size_t count = Manager().GetAllUserList().size();
+         return count == 3 || count == 0;
+     }},
+    {"GetAccountInfo",
+     [] {
+         const ShareAccountInfo account = Manager().GetAccountInfo();
+         return (account.nickName == "Robin" && account.callingUid == 20010042) ||
+                (account.nickName.empty() && account.callingUid == -1);
+     }},
+    {"GetPreviewData",
+     [] {
+         const std::string preview = Manager().GetPreviewData();
+         return preview.empty() || preview.rfind("preview line 1:", 0) == 0;
+     }},
+};
 
 class CountingShareDiedCallback : public ShareSaDiedCallback {
 public:
@@ -76,60 +135,25 @@ private:
     std::thread thread_;
 };
 
-// Collects what went wrong on any thread; the first few messages are kept for the report.
-class Findings {
-public:
-    void Add(const std::string& message)
-    {
-        std::lock_guard<std::mutex> lock(mutex_);
-        if (messages_.size() < MAX_KEPT) {
-            messages_.push_back(message);
-        }
-        ++count_;
-    }
-    void Expect() const
-    {
-        std::lock_guard<std::mutex> lock(mutex_);
-        EXPECT_EQ(count_, 0);
-        for (const std::string& message : messages_) {
-            ADD_FAILURE() << message;
-        }
-    }
-
-private:
-    static constexpr size_t MAX_KEPT = 10;
-    mutable std::mutex mutex_;
-    std::vector<std::string> messages_;
-    int count_ = 0;
-};
-
-// The died callbacks of both clients, changed by the killer between deaths in a cycle: registered, kept,
-// replaced, cleared, and registered then released by their owner. Each callback that is still owned counts the
-// deaths it must have been told of.
+// The died callbacks of both clients, changed by the killer between deaths in a cycle of five rounds: registered,
+// kept, replaced, cleared, and registered then released by their owner. Each callback that is still owned counts
+// the deaths it must have been told of.
 class DiedCallbacks {
 public:
     void Change(int round)
     {
-        switch (round % CYCLE) {
-        case 0:
-        case 2:
-            kept_.push_back(Pair{std::make_shared<CountingShareDiedCallback>(),
-                                 std::make_shared<CountingManagerDiedCallback>(), 0});
-            Register(kept_.back());
+        const int step = round % CYCLE;
+        if (step == 1) {
+            return;
+        }
+        auto share = std::make_shared<CountingShareDiedCallback>();
+        auto manager = std::make_shared<CountingManagerDiedCallback>();
+        Share().RegisterDiedCallback(step == CLEAR ? nullptr : share);
+        Manager().RegisterDiedCallback(step == CLEAR ? nullptr : manager);
+        registered_ = NONE;
+        if (step != CLEAR && step != RELEASE) {
+            kept_.push_back({share, manager, 0});
             registered_ = static_cast<int>(kept_.size()) - 1;
-            break;
-        case 3:
-            ShareClient::GetInstance().RegisterDiedCallback(nullptr);
-            ShareManagerClient::GetInstance().RegisterDiedCallback(nullptr);
-            registered_ = NONE;
-            break;
-        case 4:
-            Register(Pair{std::make_shared<CountingShareDiedCallback>(),
-                          std::make_shared<CountingManagerDiedCallback>(), 0});
-            registered_ = NONE;
-            break;
-        default:
-            break;
         }
     }
     // Both services died once while both clients were connected to them.
@@ -148,88 +172,76 @@ public:
     }
 
 private:
-    struct Pair {
+    struct Kept {
         std::shared_ptr<CountingShareDiedCallback> share;
         std::shared_ptr<CountingManagerDiedCallback> manager;
         int expectedCalls;
     };
     static constexpr int CYCLE = 5;
+    static constexpr int CLEAR = 3;
+    static constexpr int RELEASE = 4;
     static constexpr int NONE = -1;
 
-    static void Register(const Pair& pair)
-    {
-        ShareClient::GetInstance().RegisterDiedCallback(pair.share);
-        ShareManagerClient::GetInstance().RegisterDiedCallback(pair.manager);
-    }
-
-    std::vector<Pair> kept_;
+    std::vector<Kept> kept_;
     int registered_ = NONE;
 };
 
-class ShareStressTest : public testing::Test {
-protected:
-    void SetUp() override { services_.Start(); }
-    void TearDown() override { SamgrHostControl::Reset(); }
-
-    void CallMix(int worker)
-    {
-        for (int i = 0; i < CALLS_PER_WORKER; ++i) {
-            const StressCall& call = services_.Calls()[(worker + i) % services_.Calls().size()];
-            const std::string finding = call.run();
-            if (!finding.empty()) {
-                findings_.Add(call.name + ": " + finding);
-            }
-        }
-    }
-
-    // Calls both services until one call of each reached the running generation, so that the coming death is
-    // one of an object that each client is connected to.
-    bool ConnectBoth()
-    {
-        bool share = false;
-        bool manager = false;
-        for (int attempt = 0; attempt < CONNECT_ATTEMPTS && !(share && manager); ++attempt) {
-            share = share || ShareClient::GetInstance().EnableDiscoveryPolicy(1) == 1;
-            manager = manager || ShareManagerClient::GetInstance().IsEnabled();
-        }
-        return share && manager;
-    }
-
-    void KillAndRestart(DiedCallbacks& callbacks)
-    {
-        for (int round = 0; round < RESTARTS; ++round) {
-            callbacks.Change(round);
-            if (!ConnectBoth()) {
-                findings_.Add("round " + std::to_string(round) + ": could not reach both services");
-                continue;
-            }
-            services_.KillBoth();
-            callbacks.Died();
-            services_.RestartManager();
-            // The death notices run on IPC threads; they are all delivered before the callbacks change again.
-            IpcThreads::Drain();
-        }
-    }
-
-    StressServices services_;
-    Findings findings_;
-};
-
-TEST_F(ShareStressTest, CallsSurviveServiceDeathsAndEachDeathIsReportedOnce)
+// Calls both services until one call of each reached the running generation, so that the coming death is one of
+// an object that each client is connected to.
+bool ConnectBoth()
 {
+    bool share = false;
+    bool manager = false;
+    for (int attempt = 0; attempt < CONNECT_ATTEMPTS && !(share && manager); ++attempt) {
+        share = share || Share().EnableDiscoveryPolicy(1) == 1;
+        manager = manager || Manager().IsEnabled();
+    }
+    return share && manager;
+}
+
+TEST(ShareStressTest, CallsSurviveServiceDeathsAndEachDeathIsReportedOnce)
+{
+    SamgrHostControl::Reset();
+    ShareEmulator::Install();
     Watchdog watchdog;
     DiedCallbacks callbacks;
+    std::atomic<int> wrong{0};
     std::vector<std::thread> workers;
     for (int worker = 0; worker < WORKERS; ++worker) {
-        workers.emplace_back([this, worker] { CallMix(worker); });
+        workers.emplace_back([worker, &wrong] {
+            for (int i = 0; i < CALLS_PER_WORKER; ++i) {
+                const Call& call = CALLS[(worker + i) % CALLS.size()];
+                if (!call.answered()) {
+                    ADD_FAILURE() << call.name << " gave neither the service's answer nor the neutral result";
+                    ++wrong;
+                }
+            }
+        });
     }
-    KillAndRestart(callbacks);
+    int unreached = 0;
+    for (int round = 0; round < RESTARTS; ++round) {
+        callbacks.Change(round);
+        if (!ConnectBoth()) {
+            ++unreached;
+            continue;
+        }
+        ShareEmulator::KillShareService();
+        ShareEmulator::KillShareManagerService();
+        callbacks.Died();
+        // A fresh share manager; the share service comes back at the next load.
+        ShareEmulator::Install();
+        // The death notices run on IPC threads; they are all delivered before the callbacks change again.
+        IpcThreads::Drain();
+    }
     for (std::thread& worker : workers) {
         worker.join();
     }
     IpcThreads::Drain();
-    findings_.Expect();
+    EXPECT_EQ(wrong.load(), 0);
+    EXPECT_EQ(unreached, 0) << "rounds in which a service could not be reached";
     callbacks.Expect();
+    ShareEmulator::Uninstall();
+    SamgrHostControl::Reset();
 }
 
 } // namespace

@@ -1,0 +1,55 @@
+/*
+ * The log lines an operation is expected to write, as a table: each listed line must be logged exactly as often as
+ * it is listed (a text that appears twice under one tag is listed twice).
+ */
+#ifndef LOG_LINE_H
+#define LOG_LINE_H
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "hilog/log_capture.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+struct LogLine {
+    std::string tag;
+    LogLevel level;
+    // Empty: the operation has no such line.
+    std::string text;
+};
+
+inline bool operator==(const LogLine& left, const LogLine& right)
+{
+    return left.tag == right.tag && left.level == right.level && left.text == right.text;
+}
+
+// How often the line was logged: its text follows the "[file:line] function# " prefix.
+inline size_t Logged(const HiviewDFX::ScopedLogCapture& log, const LogLine& line)
+{
+    return line.text.empty() ? 0 : log.Count(line.tag, "# " + line.text, line.level);
+}
+
+inline void ExpectLines(const HiviewDFX::ScopedLogCapture& log, const std::vector<LogLine>& lines)
+{
+    for (const LogLine& line : lines) {
+        if (!line.text.empty()) {
+            const auto listed = static_cast<size_t>(std::count(lines.begin(), lines.end(), line));
+            EXPECT_EQ(Logged(log, line), listed) << line.tag << ": " << line.text;
+        }
+    }
+}
+
+inline size_t ErrorLines(const HiviewDFX::ScopedLogCapture& log, const std::string& tag)
+{
+    return log.Count(tag, "", LOG_ERROR);
+}
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // LOG_LINE_H
