@@ -127,6 +127,7 @@ void WriteSeeds()
     WriteSeed("receiver_action_callback", "no_object", Words({}), 0);
     WriteSeed("account_info_reply", "filled", Written(FilledAccount()), 0);
 }
+
 // A frame of the host transport, behind the byte that says how many descriptors came with it.
 void WriteFrameSeed(const std::string& name, uint8_t fds, const std::vector<uint8_t>& frame)
 {
