@@ -24,11 +24,12 @@ public:
     virtual sptr<IRemoteObject> AsObject() = 0;
 };
 
+// The literal's length is known at compile time: a fresh descriptor for every request costs its copy only.
 #define DECLARE_INTERFACE_DESCRIPTOR(DESCRIPTOR)                                                                       \
     static constexpr const char16_t* metaDescriptor_ = DESCRIPTOR;                                                     \
     static inline const std::u16string GetDescriptor()                                                                 \
     {                                                                                                                  \
-        return metaDescriptor_;                                                                                        \
+        return std::u16string(DESCRIPTOR, sizeof(DESCRIPTOR) / sizeof(char16_t) - 1);                                  \
     }
 
 class BrokerDelegatorBase {

@@ -47,7 +47,8 @@ public:
 
     int GetSptrRefCount() const;
     int GetWptrRefCount() const;
-    RefCounter* GetRefCounter() const { return refs_; }
+    // Created on first need: a record that only ever lives in a container or on the stack never allocates one.
+    RefCounter* GetRefCounter() const;
 
     // The object is no longer deleted when its last strong reference goes.
     void ExtendObjectLifetime() { extendedLifetime_ = true; }
@@ -59,7 +60,7 @@ public:
     virtual bool OnAttemptPromoted(const void* objectId);
 
 private:
-    RefCounter* refs_;
+    mutable std::atomic<RefCounter*> refs_{nullptr};
     bool extendedLifetime_ = false;
 };
 

@@ -17,6 +17,7 @@
 #include "samgr_host_control.h"
 #include "share_client.h"
 #include "share_manager_client.h"
+#include "workloads.h"
 #include "zelkon_service_load_callback.h"
 
 namespace OHOS {
@@ -57,33 +58,38 @@ public:
     }
 };
 
+} // namespace
+
+bool ClientCall()
+{
+    static const sptr<IRemoteObject> connected = FastShareService();
+    return ShareClient::GetInstance().EnableDiscoveryPolicy(1) == 1;
+}
+
+bool BareSendRequest()
+{
+    static const sptr<IRemoteObject> remote = FastShareService();
+    static MessageParcel* const data = [] {
+        auto* request = new MessageParcel();
+        request->WriteInterfaceToken(u"ohos.Zelkon.ZelkonService");
+        request->WriteInt32(1);
+        return request;
+    }();
+    MessageParcel reply;
+    MessageOption option(MessageOption::TF_SYNC, 8);
+    return remote->SendRequest(ENABLE_DISCOVERY_POLICY, *data, reply, option) == 0 && reply.ReadBool();
+}
+
+namespace {
 void BM_ClientCall(benchmark::State& state)
 {
-    FastShareService();
-    ShareClient& client = ShareClient::GetInstance();
-    for (auto _ : state) {
-        if (client.EnableDiscoveryPolicy(1) != 1) {
-            state.SkipWithError("the call failed");
-            break;
-        }
-    }
+    MeasureWorkload(state, ClientCall);
 }
 BENCHMARK(BM_ClientCall);
 
 void BM_BareSendRequest(benchmark::State& state)
 {
-    const sptr<IRemoteObject> remote = FastShareService();
-    MessageParcel data;
-    data.WriteInterfaceToken(u"ohos.Zelkon.ZelkonService");
-    data.WriteInt32(1);
-    for (auto _ : state) {
-        MessageParcel reply;
-        MessageOption option(MessageOption::TF_SYNC, 8);
-        if (remote->SendRequest(ENABLE_DISCOVERY_POLICY, data, reply, option) != 0 || !reply.ReadBool()) {
-            state.SkipWithError("the request failed");
-            break;
-        }
-    }
+    MeasureWorkload(state, BareSendRequest);
 }
 BENCHMARK(BM_BareSendRequest);
 

@@ -7,12 +7,15 @@
 #include <string>
 #include <vector>
 
+#include <sys/mman.h>
+
 #include <benchmark/benchmark.h>
 
 #include "message_parcel.h"
 #include "parcel_util.h"
 #include "sample_records.h"
 #include "share_manager_srv_proxy.h"
+#include "workloads.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -21,116 +24,178 @@ namespace {
 constexpr int32_t RECORDS = 1000;
 constexpr size_t BIG_STRING_SIZE = 5 * 1024 * 1024;
 
-// The copy of the bytes into a fresh buffer, and out again when twice.
-void Memcpy(benchmark::State& state, size_t size, bool twice)
+const ShareDeviceInfo DEVICE = FilledDeviceWithLargeAvatar();
+
+size_t RecordSize()
 {
-    const std::vector<char> source(size, 'r');
-    std::vector<char> wire(size);
-    std::vector<char> target(size);
-    for (auto _ : state) {
-        memcpy(wire.data(), source.data(), size);
-        benchmark::ClobberMemory();
-        if (twice) {
-            memcpy(target.data(), wire.data(), size);
-            benchmark::ClobberMemory();
-        }
-    }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * size));
+    Parcel parcel;
+    DEVICE.Marshalling(parcel);
+    return parcel.GetDataSize();
 }
 
+std::string UserListBytes()
+{
+    MessageParcel reply;
+    reply.WriteInt32(RECORDS);
+    for (int32_t i = 0; i < RECORDS; ++i) {
+        DEVICE.Marshalling(reply);
+    }
+    return std::string(reinterpret_cast<const char*>(reply.GetData()), reply.GetDataSize());
+}
+
+// The source, the wire and the target of the memcpy references, each as large as what it stands for.
+struct CopyBuffers {
+    explicit CopyBuffers(size_t size) : source(size, 'r'), wire(size), target(size) {}
+    std::vector<char> source;
+    std::vector<char> wire;
+    std::vector<char> target;
+};
+
+CopyBuffers& RecordBuffers()
+{
+    static CopyBuffers buffers(RecordSize());
+    return buffers;
+}
+
+const std::string& UserList()
+{
+    static const std::string bytes = UserListBytes();
+    return bytes;
+}
+
+std::vector<std::unique_ptr<MessageParcel>>& UserListReplies()
+{
+    static std::vector<std::unique_ptr<MessageParcel>> replies;
+    return replies;
+}
+
+const std::string& BigText()
+{
+    // Below the reader's limit, which counts the terminating zero byte.
+    static const std::string text(BIG_STRING_SIZE - 1, 'b');
+    return text;
+}
+} // namespace
+
+bool RecordRoundTrip()
+{
+    Parcel parcel;
+    ShareDeviceInfo read;
+    const bool ok = DEVICE.Marshalling(parcel) && read.ReadFromParcel(parcel);
+    benchmark::DoNotOptimize(read);
+    return ok;
+}
+
+bool RecordMemcpy()
+{
+    CopyBuffers& buffers = RecordBuffers();
+    memcpy(buffers.wire.data(), buffers.source.data(), buffers.wire.size());
+    benchmark::ClobberMemory();
+    memcpy(buffers.target.data(), buffers.wire.data(), buffers.target.size());
+    benchmark::ClobberMemory();
+    return true;
+}
+
+void PrepareUserListReplies(size_t count)
+{
+    for (size_t i = 0; i < count; ++i) {
+        auto reply = std::make_unique<MessageParcel>();
+        reply->SetMaxCapacity(UserList().size());
+        reply->WriteBuffer(UserList().data(), UserList().size());
+        UserListReplies().push_back(std::move(reply));
+    }
+}
+
+bool UserListRead()
+{
+    if (UserListReplies().empty()) {
+        return false;
+    }
+    std::unique_ptr<MessageParcel> reply = std::move(UserListReplies().back());
+    UserListReplies().pop_back();
+    std::vector<ShareDeviceInfo> devices;
+    const bool ok =
+        ShareManagerSrvProxy::ReadDeviceList(*reply, devices, SHARE_LOG_SITE, "") && devices.size() == RECORDS;
+    benchmark::DoNotOptimize(devices.data());
+    return ok;
+}
+
+bool UserListMemcpy()
+{
+    static std::vector<char> copy(UserList().size());
+    memcpy(copy.data(), UserList().data(), copy.size());
+    benchmark::ClobberMemory();
+    return true;
+}
+
+bool BigString()
+{
+    static const sptr<ShareManagerSrvProxy> reader(new ShareManagerSrvProxy(nullptr));
+    MessageParcel parcel;
+    std::string read;
+    const bool ok = ParcelUtil::WriteBigString(parcel, BigText()) && reader->ReadBigString(parcel, read);
+    benchmark::DoNotOptimize(read.data());
+    return ok;
+}
+
+bool BigStringFreshCopy()
+{
+    void* block = mmap(nullptr, BIG_STRING_SIZE, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (block == MAP_FAILED) {
+        return false;
+    }
+    memcpy(block, BigText().c_str(), BIG_STRING_SIZE);
+    benchmark::ClobberMemory();
+    munmap(block, BIG_STRING_SIZE);
+    return true;
+}
+
+namespace {
 void BM_RecordRoundTrip(benchmark::State& state)
 {
-    const ShareDeviceInfo device = FilledDeviceWithLargeAvatar();
-    for (auto _ : state) {
-        Parcel parcel;
-        ShareDeviceInfo read;
-        if (!device.Marshalling(parcel) || !read.ReadFromParcel(parcel)) {
-            state.SkipWithError("round trip failed");
-            break;
-        }
-        benchmark::DoNotOptimize(read);
-    }
+    MeasureWorkload(state, RecordRoundTrip);
 }
 BENCHMARK(BM_RecordRoundTrip);
 
 void BM_RecordMemcpy(benchmark::State& state)
 {
-    Parcel parcel;
-    FilledDeviceWithLargeAvatar().Marshalling(parcel);
-    Memcpy(state, parcel.GetDataSize(), true);
+    MeasureWorkload(state, RecordMemcpy, RecordBuffers().wire.size());
 }
 BENCHMARK(BM_RecordMemcpy);
 
-std::string UserListReply()
-{
-    MessageParcel reply;
-    reply.WriteInt32(RECORDS);
-    const ShareDeviceInfo device = FilledDeviceWithLargeAvatar();
-    for (int32_t i = 0; i < RECORDS; ++i) {
-        device.Marshalling(reply);
-    }
-    return std::string(reinterpret_cast<const char*>(reply.GetData()), reply.GetDataSize());
-}
-
 void BM_UserListRead(benchmark::State& state)
 {
-    const std::string bytes = UserListReply();
     for (auto _ : state) {
         state.PauseTiming();
-        MessageParcel reply;
-        reply.SetMaxCapacity(bytes.size());
-        reply.WriteBuffer(bytes.data(), bytes.size());
+        PrepareUserListReplies(1);
         state.ResumeTiming();
-        std::vector<ShareDeviceInfo> devices;
-        if (!ShareManagerSrvProxy::ReadDeviceList(reply, devices, SHARE_LOG_SITE, "") || devices.size() != RECORDS) {
+        if (!UserListRead()) {
             state.SkipWithError("the list was not read");
             break;
         }
-        benchmark::DoNotOptimize(devices.data());
     }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * bytes.size()));
+    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * UserList().size()));
 }
 BENCHMARK(BM_UserListRead)->Unit(benchmark::kMicrosecond);
 
 void BM_UserListMemcpy(benchmark::State& state)
 {
-    Memcpy(state, UserListReply().size(), false);
+    MeasureWorkload(state, UserListMemcpy, UserList().size());
 }
 BENCHMARK(BM_UserListMemcpy)->Unit(benchmark::kMicrosecond);
 
-// One copy in, one copy out.
 void BM_BigString(benchmark::State& state)
 {
-    // Below the reader's limit, which counts the terminating zero byte.
-    const std::string text(BIG_STRING_SIZE - 1, 'b');
-    const sptr<ShareManagerSrvProxy> reader(new ShareManagerSrvProxy(nullptr));
-    for (auto _ : state) {
-        MessageParcel parcel;
-        std::string read;
-        if (!ParcelUtil::WriteBigString(parcel, text) || !reader->ReadBigString(parcel, read)) {
-            state.SkipWithError("big string round trip failed");
-            break;
-        }
-        benchmark::DoNotOptimize(read.data());
-    }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * BIG_STRING_SIZE));
+    MeasureWorkload(state, BigString, BIG_STRING_SIZE);
 }
 BENCHMARK(BM_BigString)->Unit(benchmark::kMicrosecond);
 
-// The one copy of the same bytes into a freshly allocated buffer.
-void BM_BigStringMemcpy(benchmark::State& state)
+void BM_BigStringFreshCopy(benchmark::State& state)
 {
-    const std::string text(BIG_STRING_SIZE - 1, 'b');
-    for (auto _ : state) {
-        std::unique_ptr<char[]> copy(new char[BIG_STRING_SIZE]);
-        memcpy(copy.get(), text.c_str(), BIG_STRING_SIZE);
-        benchmark::DoNotOptimize(copy.get());
-        benchmark::ClobberMemory();
-    }
-    state.SetBytesProcessed(static_cast<int64_t>(state.iterations() * BIG_STRING_SIZE));
+    MeasureWorkload(state, BigStringFreshCopy, BIG_STRING_SIZE);
 }
-BENCHMARK(BM_BigStringMemcpy)->Unit(benchmark::kMicrosecond);
-
+BENCHMARK(BM_BigStringFreshCopy)->Unit(benchmark::kMicrosecond);
 } // namespace
+
 } // namespace Zelkon
 } // namespace OHOS

@@ -108,6 +108,12 @@ void PrintToConsole(const LogEntry& entry)
                  entry.domain & 0xFFFFF, entry.tag.c_str(), entry.text.c_str());
 }
 
+// Nothing prints the line and nobody listens: it costs this check and nothing else.
+bool Unwanted(LogLevel level)
+{
+    return level < g_threshold.load(std::memory_order_relaxed) && g_listeners.load(std::memory_order_relaxed) == 0;
+}
+
 bool Accepted(LogType type, unsigned int domain, const char* tag)
 {
     if (tag == nullptr) {
@@ -208,11 +214,7 @@ extern "C" void LOG_SetCallback(LogCallback callback)
 extern "C" int HiLogPrintArgs(LogType type, LogLevel level, unsigned int domain, const char* tag, const char* fmt,
                               va_list ap)
 {
-    bool printed = level >= g_threshold.load(std::memory_order_relaxed);
-    if (!printed && g_listeners.load(std::memory_order_relaxed) == 0) {
-        return -1;
-    }
-    if (fmt == nullptr || !Accepted(type, domain, tag)) {
+    if (Unwanted(level) || fmt == nullptr || !Accepted(type, domain, tag)) {
         return -1;
     }
     char message[MAX_MESSAGE];
@@ -221,7 +223,7 @@ extern "C" int HiLogPrintArgs(LogType type, LogLevel level, unsigned int domain,
         return -1;
     }
     LogEntry entry{type, level, domain, tag, message};
-    if (printed) {
+    if (level >= g_threshold.load(std::memory_order_relaxed)) {
         PrintToConsole(entry);
     }
     if (LogCallback callback = g_callback.load()) {
@@ -238,6 +240,9 @@ extern "C" int HiLogPrintArgs(LogType type, LogLevel level, unsigned int domain,
 
 extern "C" int HiLogPrint(LogType type, LogLevel level, unsigned int domain, const char* tag, const char* fmt, ...)
 {
+    if (Unwanted(level)) {
+        return -1;
+    }
     va_list ap;
     va_start(ap, fmt);
     int result = HiLogPrintArgs(type, level, domain, tag, fmt, ap);

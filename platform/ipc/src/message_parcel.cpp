@@ -21,6 +21,22 @@ constexpr size_t RECORD_SIZE = 24;
 constexpr int32_t STRICT_MODE_POLICY = 0x100;
 constexpr int32_t WORK_SOURCE = 0;
 
+bool WriteWhole(int fd, const void* data, size_t size)
+{
+    const auto* bytes = static_cast<const uint8_t*>(data);
+    for (size_t written = 0; written < size;) {
+        const ssize_t result = pwrite(fd, bytes + written, size - written, static_cast<off_t>(written));
+        if (result < 0 && errno == EINTR) {
+            continue;
+        }
+        if (result <= 0) {
+            return false;
+        }
+        written += static_cast<size_t>(result);
+    }
+    return true;
+}
+
 uint32_t RecordTypeAt(const uint8_t* data, size_t offset)
 {
     uint32_t type = 0;
@@ -193,23 +209,18 @@ bool MessageParcel::WriteSharedMemoryBlock(const void* data, size_t size)
         close(fd);
         return false;
     }
-    // Populated up front: faulting in a block of several MiB page by page costs more than the copy itself.
-    void* writable = mmap(nullptr, size, PROT_READ | PROT_WRITE, MAP_SHARED | MAP_POPULATE, fd, 0);
-    if (writable == MAP_FAILED) {
-        IPC_HOST_LOGE("mmap of %{public}zu bytes failed, errno %{public}d", size, errno);
+    // Written through the descriptor: a writable mapping would have the kernel zero, map and unmap every page
+    // on top of the one copy.
+    if (!WriteWhole(fd, data, size)) {
+        IPC_HOST_LOGE("writing %{public}zu bytes of raw data failed, errno %{public}d", size, errno);
         close(fd);
         return false;
     }
-    std::memcpy(writable, data, size);
     if (!WriteRecord(BINDER_TYPE_FD, static_cast<uint64_t>(fd), Carried{CarriedKind::FD, nullptr, fd})) {
-        munmap(writable, size);
         close(fd);
         return false;
     }
     sharedBlockWritten_ = true;
-    mappings_.emplace_back(writable, size);
-    rawData_ = writable;
-    rawDataSize_ = size;
     return true;
 }
 
@@ -241,7 +252,7 @@ const void* MessageParcel::MapSharedMemoryBlock(size_t size)
         IPC_HOST_LOGE("shared memory block is smaller than %{public}zu bytes", size);
         return nullptr;
     }
-    void* mapping = mmap(nullptr, size, PROT_READ, MAP_SHARED | MAP_POPULATE, carried->fd, 0);
+    void* mapping = mmap(nullptr, size, PROT_READ, MAP_SHARED, carried->fd, 0);
     if (mapping == MAP_FAILED) {
         IPC_HOST_LOGE("mmap of %{public}zu bytes failed, errno %{public}d", size, errno);
         return nullptr;

@@ -11,7 +11,6 @@ namespace {
 
 constexpr size_t WORD = 4;
 constexpr size_t MIN_CAPACITY = 64;
-constexpr size_t CAPACITY_STEP = 4096;
 
 // A size too large to pad saturates instead of wrapping to 0, so it stays too large for every check that follows.
 size_t Pad4(size_t size)
@@ -19,17 +18,15 @@ size_t Pad4(size_t size)
     return size > SIZE_MAX - (WORD - 1) ? SIZE_MAX : (size + WORD - 1) & ~(WORD - 1);
 }
 
-// 64, 128, ... doubling up to 4096, then whole steps of 4096 with one step of headroom.
+// 64 bytes, then doubling all the way: a parcel of several MiB is copied a few times as it grows, not once per
+// 4 KiB as in steps of 4 KiB.
 size_t GrownCapacity(size_t required)
 {
-    if (required > CAPACITY_STEP) {
-        return (required / CAPACITY_STEP) * CAPACITY_STEP + CAPACITY_STEP;
-    }
     size_t capacity = MIN_CAPACITY;
-    while (capacity < required) {
+    while (capacity < required && capacity <= SIZE_MAX / 2) {
         capacity *= 2;
     }
-    return capacity;
+    return std::max(capacity, required);
 }
 
 } // namespace
@@ -424,7 +421,8 @@ bool Parcel::ReadText(Str& value)
         return false;
     }
     if constexpr (sizeof(Unit) == 1) {
-        value.assign(reinterpret_cast<const char*>(body), count);
+        // A string built and moved in costs less than an assignment, which must allow for overlap and growth.
+        value = std::string(reinterpret_cast<const char*>(body), count);
     } else {
         // memcpy: a string16 body need not be aligned for its units.
         value.resize(count);

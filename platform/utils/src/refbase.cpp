@@ -21,17 +21,17 @@ void RefCounter::ReleaseHolder()
     }
 }
 
-RefBase::RefBase() : refs_(new RefCounter()) {}
+RefBase::RefBase() = default;
 
 // A copy is a different object: it gets counts of its own.
-RefBase::RefBase(const RefBase&) : refs_(new RefCounter()) {}
+RefBase::RefBase(const RefBase&) {}
 
 RefBase& RefBase::operator=(const RefBase&)
 {
     return *this;
 }
 
-RefBase::RefBase(RefBase&&) noexcept : refs_(new RefCounter()) {}
+RefBase::RefBase(RefBase&&) noexcept {}
 
 RefBase& RefBase::operator=(RefBase&&) noexcept
 {
@@ -40,17 +40,36 @@ RefBase& RefBase::operator=(RefBase&&) noexcept
 
 RefBase::~RefBase()
 {
-    refs_->objectAlive.store(false, std::memory_order_release);
-    refs_->ReleaseHolder();
+    RefCounter* refs = refs_.load(std::memory_order_acquire);
+    if (refs != nullptr) {
+        refs->objectAlive.store(false, std::memory_order_release);
+        refs->ReleaseHolder();
+    }
+}
+
+RefCounter* RefBase::GetRefCounter() const
+{
+    RefCounter* refs = refs_.load(std::memory_order_acquire);
+    if (refs != nullptr) {
+        return refs;
+    }
+    // Two first references at once: one counter wins, the other is dropped unused.
+    auto* created = new RefCounter();
+    if (refs_.compare_exchange_strong(refs, created, std::memory_order_acq_rel, std::memory_order_acquire)) {
+        return created;
+    }
+    delete created;
+    return refs;
 }
 
 void RefBase::IncStrongRef(const void* objectId)
 {
-    int current = refs_->strong.load(std::memory_order_relaxed);
+    RefCounter* refs = GetRefCounter();
+    int current = refs->strong.load(std::memory_order_relaxed);
     int next;
     do {
         next = current == INITIAL_PRIMARY_VALUE ? 1 : current + 1;
-    } while (!refs_->strong.compare_exchange_weak(current, next, std::memory_order_acq_rel, std::memory_order_relaxed));
+    } while (!refs->strong.compare_exchange_weak(current, next, std::memory_order_acq_rel, std::memory_order_relaxed));
     if (current == INITIAL_PRIMARY_VALUE) {
         OnFirstStrongRef(objectId);
     }
@@ -58,7 +77,7 @@ void RefBase::IncStrongRef(const void* objectId)
 
 void RefBase::DecStrongRef(const void* objectId)
 {
-    if (refs_->strong.fetch_sub(1, std::memory_order_acq_rel) != 1) {
+    if (GetRefCounter()->strong.fetch_sub(1, std::memory_order_acq_rel) != 1) {
         return;
     }
     OnLastStrongRef(objectId);
@@ -69,7 +88,7 @@ void RefBase::DecStrongRef(const void* objectId)
 
 bool RefBase::AttemptIncStrongRef(const void* objectId)
 {
-    if (!refs_->AttemptIncStrong()) {
+    if (!GetRefCounter()->AttemptIncStrong()) {
         return false;
     }
     return OnAttemptPromoted(objectId);
@@ -77,24 +96,26 @@ bool RefBase::AttemptIncStrongRef(const void* objectId)
 
 void RefBase::IncWeakRef(const void*)
 {
-    refs_->weak.fetch_add(1, std::memory_order_relaxed);
+    GetRefCounter()->weak.fetch_add(1, std::memory_order_relaxed);
 }
 
 void RefBase::DecWeakRef(const void* objectId)
 {
-    if (refs_->weak.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+    if (GetRefCounter()->weak.fetch_sub(1, std::memory_order_acq_rel) == 1) {
         OnLastWeakRef(objectId);
     }
 }
 
 int RefBase::GetSptrRefCount() const
 {
-    return refs_->strong.load(std::memory_order_relaxed);
+    RefCounter* refs = refs_.load(std::memory_order_acquire);
+    return refs != nullptr ? refs->strong.load(std::memory_order_relaxed) : INITIAL_PRIMARY_VALUE;
 }
 
 int RefBase::GetWptrRefCount() const
 {
-    return refs_->weak.load(std::memory_order_relaxed);
+    RefCounter* refs = refs_.load(std::memory_order_acquire);
+    return refs != nullptr ? refs->weak.load(std::memory_order_relaxed) : 0;
 }
 
 void RefBase::OnFirstStrongRef(const void*) {}

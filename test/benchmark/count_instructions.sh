@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Instructions per run of each workload of share_benchmark, under callgrind: a loop of N runs and one of 2N, the
+# difference divided by N (start-up and set-up cancel out). Unlike times, the counts repeat exactly on a busy
+# machine. Usage: test/benchmark/count_instructions.sh [BUILD_DIR, default build/bench] [N, default 200]
+set -euo pipefail
+build=${1:-build/bench}
+runs=${2:-200}
+benchmark=$build/test/benchmark/share_benchmark
+
+instructions() {
+    valgrind --tool=callgrind --callgrind-out-file=/dev/null "$benchmark" --loop "$1" "$2" 2>&1 |
+        sed -n 's/^==[0-9]*== Collected : //p'
+}
+
+printf '%-24s %14s\n' workload instructions
+for workload in record-round-trip record-memcpy user-list-read user-list-memcpy big-string big-string-fresh-copy \
+    client-call bare-send-request; do
+    # The big string moves 5 MiB a run: a few runs are enough.
+    n=$runs
+    [[ $workload == big-string* || $workload == user-list* ]] && n=$((runs / 40 > 0 ? runs / 40 : 1))
+    once=$(instructions "$workload" "$n")
+    twice=$(instructions "$workload" $((2 * n)))
+    printf '%-24s %14d\n' "$workload" $(((twice - once) / n))
+done
