@@ -44,9 +44,6 @@ Peer& ThePeer()
     return *peer;
 }
 
-// Started on the main thread: the peer dies with the thread that started it, and benchmark threads come and go.
-const Peer& g_peer = ThePeer();
-
 void WriteSmallRequest(MessageParcel& data)
 {
     data.WriteInterfaceToken(PEER_DESCRIPTOR);
@@ -60,10 +57,11 @@ void BM_RawSocketRoundTrip(benchmark::State& state)
     const auto* request = reinterpret_cast<const uint8_t*>(data.GetData());
     const size_t size = data.GetDataSize();
     std::vector<uint8_t> answer(size);
+    const Peer& peer = ThePeer();
     for (auto _ : state) {
         size_t got = 0;
-        ssize_t count = write(g_peer.raw, request, size);
-        while (count > 0 && got < size && (count = read(g_peer.raw, answer.data() + got, size - got)) > 0) {
+        ssize_t count = write(peer.raw, request, size);
+        while (count > 0 && got < size && (count = read(peer.raw, answer.data() + got, size - got)) > 0) {
             got += static_cast<size_t>(count);
         }
         if (got != size) {
@@ -76,12 +74,13 @@ BENCHMARK(BM_RawSocketRoundTrip);
 
 void BM_CrossProcessSendRequest(benchmark::State& state)
 {
+    const Peer& peer = ThePeer();
     MessageParcel data;
     WriteSmallRequest(data);
     for (auto _ : state) {
         MessageParcel reply;
         MessageOption option;
-        if (g_peer.remote->SendRequest(ECHO, data, reply, option) != ERR_NONE ||
+        if (peer.remote->SendRequest(ECHO, data, reply, option) != ERR_NONE ||
             reply.GetDataSize() != data.GetDataSize()) {
             state.SkipWithError("the request failed");
             break;
@@ -92,12 +91,13 @@ BENCHMARK(BM_CrossProcessSendRequest);
 
 void BM_CrossProcessConcurrentCalls(benchmark::State& state)
 {
+    const Peer& peer = ThePeer();
     MessageParcel data;
     data.WriteInt32(2);
     for (auto _ : state) {
         MessageParcel reply;
         MessageOption option;
-        if (g_peer.remote->SendRequest(SLEEP, data, reply, option) != ERR_NONE) {
+        if (peer.remote->SendRequest(SLEEP, data, reply, option) != ERR_NONE) {
             state.SkipWithError("the request failed");
             break;
         }

@@ -24,22 +24,24 @@ PeerProcess::PeerProcess(int rawFd) :
     path_("/tmp/ipc_transport_peer_" + std::to_string(getpid()) + "_" + std::to_string(g_peers++) + ".sock")
 {
     int ready[2];
-    if (pipe2(ready, O_CLOEXEC) != 0) {
+    int lifeline[2];
+    if (pipe2(ready, O_CLOEXEC) != 0 || pipe2(lifeline, O_CLOEXEC) != 0) {
         abort();
     }
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, lifeline[0], STDIN_FILENO);
     posix_spawn_file_actions_adddup2(&actions, ready[1], STDOUT_FILENO);
     if (rawFd >= 0) {
         posix_spawn_file_actions_adddup2(&actions, rawFd, PEER_RAW_FD);
     }
-    const std::string parent = std::to_string(getpid());
     const std::string raw = std::to_string(rawFd >= 0 ? PEER_RAW_FD : -1);
-    char* argv[] = {const_cast<char*>(IPC_TRANSPORT_PEER), path_.data(), const_cast<char*>(parent.c_str()),
-                    const_cast<char*>(raw.c_str()), nullptr};
+    char* argv[] = {const_cast<char*>(IPC_TRANSPORT_PEER), path_.data(), const_cast<char*>(raw.c_str()), nullptr};
     const int spawned = posix_spawn(&pid_, IPC_TRANSPORT_PEER, &actions, nullptr, argv, environ);
     posix_spawn_file_actions_destroy(&actions);
     close(ready[1]);
+    close(lifeline[0]);
+    lifeline_ = lifeline[1];
     char line[8] = {};
     pollfd wait{ready[0], POLLIN, 0};
     const bool started = spawned == 0 && poll(&wait, 1, READY_TIMEOUT_MS) == 1 && read(ready[0], line, 6) == 6;
@@ -64,6 +66,10 @@ void PeerProcess::Kill()
         kill(pid_, SIGKILL);
         waitpid(pid_, nullptr, 0);
         pid_ = -1;
+    }
+    if (lifeline_ >= 0) {
+        close(lifeline_);
+        lifeline_ = -1;
     }
 }
 

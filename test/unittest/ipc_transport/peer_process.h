@@ -1,6 +1,7 @@
 /*
  * A peer process for the transport tests and benchmarks: it serves a PeerService as its context object at a
- * socket path of its own and answers the codes below. Started with posix_spawn, killed and reaped by its owner.
+ * socket path of its own and answers the codes below. Started with posix_spawn, killed and reaped by its owner;
+ * it also ends by itself when this process ends (its standard input, a pipe that only this process writes, closes).
  */
 #ifndef PEER_PROCESS_H
 #define PEER_PROCESS_H
@@ -45,6 +46,7 @@ public:
 private:
     std::string path_;
     pid_t pid_ = -1;
+    int lifeline_ = -1;
 };
 
 } // namespace OHOS
