@@ -12,7 +12,7 @@
 #include "catalog_printer.h"
 #include "command_line.h"
 #include "commands.h"
-#include "hilog/log_capture.h"
+#include "hilog/log_threshold.h"
 #include "share_emulator.h"
 #include "step_runner.h"
 #include "trace_printer.h"

@@ -10,7 +10,7 @@
 #include <string>
 
 #include "hilog/log.h"
-#include "hilog/log_capture.h"
+#include "hilog/log_threshold.h"
 
 namespace OHOS {
 namespace HiviewDFX {
@@ -20,23 +20,9 @@ constexpr size_t MAX_MESSAGE = 4096;
 constexpr unsigned int CORE_DOMAIN_MIN = 0xD000000;
 constexpr unsigned int CORE_DOMAIN_MAX = 0xD0FFFFF;
 
-// WARN, so that a process calling the library in a loop does not pay for a console line per call.
 std::atomic<int> g_threshold{LOG_WARN};
-// Sinks plus the callback: when there are none, a line below the threshold costs one atomic load.
-std::atomic<int> g_listeners{0};
+// Without a callback, a line below the threshold costs two atomic loads.
 std::atomic<LogCallback> g_callback{nullptr};
-
-std::mutex& SinksMutex()
-{
-    static std::mutex mutex;
-    return mutex;
-}
-
-std::vector<LogSink*>& Sinks()
-{
-    static std::vector<LogSink*> sinks;
-    return sinks;
-}
 
 // Removes "{public}" and "{private}" right after an unescaped '%': the rest is a printf format.
 std::string StripDecorations(const char* fmt)
@@ -95,7 +81,7 @@ char TypeLetter(LogType type)
 }
 
 // One line in the console style of the platform: "11-22 14:03:07.123  1234  1240 D C04612/Tag: text".
-void PrintToConsole(const LogEntry& entry)
+void PrintToConsole(LogType type, LogLevel level, unsigned int domain, const char* tag, const char* text)
 {
     auto now = std::chrono::system_clock::now();
     std::time_t seconds = std::chrono::system_clock::to_time_t(now);
@@ -104,14 +90,14 @@ void PrintToConsole(const LogEntry& entry)
     localtime_r(&seconds, &local);
     std::fprintf(stderr, "%02d-%02d %02d:%02d:%02d.%03d %5d %5ld %c %c%05X/%s: %s\n", local.tm_mon + 1, local.tm_mday,
                  local.tm_hour, local.tm_min, local.tm_sec, static_cast<int>(millis), getpid(),
-                 static_cast<long>(syscall(SYS_gettid)), LevelLetter(entry.level), TypeLetter(entry.type),
-                 entry.domain & 0xFFFFF, entry.tag.c_str(), entry.text.c_str());
+                 static_cast<long>(syscall(SYS_gettid)), LevelLetter(level), TypeLetter(type), domain & 0xFFFFF, tag,
+                 text);
 }
 
 // Nothing prints the line and nobody listens: it costs this check and nothing else.
 bool Unwanted(LogLevel level)
 {
-    return level < g_threshold.load(std::memory_order_relaxed) && g_listeners.load(std::memory_order_relaxed) == 0;
+    return level < g_threshold.load(std::memory_order_relaxed) && g_callback.load(std::memory_order_relaxed) == nullptr;
 }
 
 bool Accepted(LogType type, unsigned int domain, const char* tag)
@@ -134,70 +120,6 @@ LogLevel HiLogGetThreshold()
     return static_cast<LogLevel>(g_threshold.load(std::memory_order_relaxed));
 }
 
-void HiLogAddSink(LogSink* sink)
-{
-    std::lock_guard<std::mutex> lock(SinksMutex());
-    Sinks().push_back(sink);
-    g_listeners.fetch_add(1, std::memory_order_relaxed);
-}
-
-void HiLogRemoveSink(LogSink* sink)
-{
-    std::lock_guard<std::mutex> lock(SinksMutex());
-    auto& sinks = Sinks();
-    auto found = std::find(sinks.begin(), sinks.end(), sink);
-    if (found != sinks.end()) {
-        sinks.erase(found);
-        g_listeners.fetch_sub(1, std::memory_order_relaxed);
-    }
-}
-
-ScopedLogCapture::ScopedLogCapture()
-{
-    HiLogAddSink(this);
-}
-
-ScopedLogCapture::~ScopedLogCapture()
-{
-    HiLogRemoveSink(this);
-}
-
-void ScopedLogCapture::OnLog(const LogEntry& entry)
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    lines_.push_back(entry);
-}
-
-std::vector<LogEntry> ScopedLogCapture::Lines() const
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    return lines_;
-}
-
-size_t ScopedLogCapture::Count(const std::string& tag, const std::string& textEnd) const
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    return std::count_if(lines_.begin(), lines_.end(), [&](const LogEntry& line) {
-        return line.tag == tag && line.text.size() >= textEnd.size() &&
-               line.text.compare(line.text.size() - textEnd.size(), textEnd.size(), textEnd) == 0;
-    });
-}
-
-size_t ScopedLogCapture::Count(const std::string& tag, const std::string& textEnd, LogLevel level) const
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    return std::count_if(lines_.begin(), lines_.end(), [&](const LogEntry& line) {
-        return line.tag == tag && line.level == level && line.text.size() >= textEnd.size() &&
-               line.text.compare(line.text.size() - textEnd.size(), textEnd.size(), textEnd) == 0;
-    });
-}
-
-void ScopedLogCapture::Clear()
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    lines_.clear();
-}
-
 } // namespace HiviewDFX
 } // namespace OHOS
 
@@ -205,10 +127,7 @@ using namespace OHOS::HiviewDFX;
 
 extern "C" void LOG_SetCallback(LogCallback callback)
 {
-    LogCallback previous = g_callback.exchange(callback);
-    if ((previous == nullptr) != (callback == nullptr)) {
-        g_listeners.fetch_add(callback != nullptr ? 1 : -1, std::memory_order_relaxed);
-    }
+    g_callback.store(callback);
 }
 
 extern "C" int HiLogPrintArgs(LogType type, LogLevel level, unsigned int domain, const char* tag, const char* fmt,
@@ -222,20 +141,13 @@ extern "C" int HiLogPrintArgs(LogType type, LogLevel level, unsigned int domain,
     if (length < 0) {
         return -1;
     }
-    LogEntry entry{type, level, domain, tag, message};
     if (level >= g_threshold.load(std::memory_order_relaxed)) {
-        PrintToConsole(entry);
+        PrintToConsole(type, level, domain, tag, message);
     }
     if (LogCallback callback = g_callback.load()) {
         callback(type, level, domain, tag, message);
     }
-    {
-        std::lock_guard<std::mutex> lock(SinksMutex());
-        for (LogSink* sink : Sinks()) {
-            sink->OnLog(entry);
-        }
-    }
-    return static_cast<int>(entry.text.size());
+    return static_cast<int>(std::strlen(message));
 }
 
 extern "C" int HiLogPrint(LogType type, LogLevel level, unsigned int domain, const char* tag, const char* fmt, ...)

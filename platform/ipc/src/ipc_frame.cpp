@@ -3,6 +3,8 @@
 #include <cstring>
 #include <set>
 
+#include "flat_object.h"
+
 namespace OHOS {
 namespace {
 constexpr uint32_t MAGIC = 0x46435049; // "IPCF"
@@ -122,7 +124,7 @@ const char* CheckHeader(const Header& header)
     if (header.dataSize > IpcFrame::MAX_DATA_SIZE) {
         return "data beyond the bound";
     }
-    if (header.objectCount > header.dataSize / IpcFrame::RECORD_SIZE) {
+    if (header.objectCount > header.dataSize / FlatObject::SIZE) {
         return "more objects than the data can hold";
     }
     if (header.tableSize < header.objectCount * ENTRY_FIXED_SIZE ||
@@ -185,10 +187,10 @@ const char* CheckPlacement(const std::vector<IpcFrame::Object>& objects, size_t 
     std::set<uint64_t> named;
     for (const IpcFrame::Object& object : objects) {
         if (object.offset % sizeof(uint32_t) != 0 || object.offset < nextFree ||
-            object.offset + IpcFrame::RECORD_SIZE > dataSize) {
+            object.offset + FlatObject::SIZE > dataSize) {
             return "object outside the data or overlapping another";
         }
-        nextFree = object.offset + IpcFrame::RECORD_SIZE;
+        nextFree = object.offset + FlatObject::SIZE;
         if (object.kind == IpcFrame::ObjectKind::DESCRIPTOR &&
             (object.value >= fdCount || !named.insert(object.value).second)) {
             return "descriptor not announced or named twice";

@@ -42,7 +42,6 @@ public:
     };
 
     static constexpr size_t HEADER_SIZE = 48;
-    static constexpr size_t RECORD_SIZE = 24;
     static constexpr size_t MAX_DATA_SIZE = 256 * 1024 * 1024;
     static constexpr size_t MAX_FDS = 253;
     static constexpr size_t MAX_ADDRESS_SIZE = 107;

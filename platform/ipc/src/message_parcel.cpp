@@ -7,17 +7,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "flat_object.h"
 #include "ipc_log.h"
 #include "ipc_types.h"
 #include "iremote_object.h"
 
 namespace OHOS {
 namespace {
-constexpr uint32_t BINDER_TYPE_BINDER = 0x73622a85;
-constexpr uint32_t BINDER_TYPE_HANDLE = 0x73682a85;
-constexpr uint32_t BINDER_TYPE_FD = 0x66642a85;
-constexpr uint32_t RECORD_FLAGS = 0x17f;
-constexpr size_t RECORD_SIZE = 24;
 constexpr int32_t STRICT_MODE_POLICY = 0x100;
 constexpr int32_t WORK_SOURCE = 0;
 
@@ -64,12 +60,12 @@ MessageParcel::~MessageParcel()
 bool MessageParcel::WriteRecord(uint32_t type, uint64_t value, const Carried& carried)
 {
     const size_t start = GetWritePosition();
-    if (!(WriteUint32(type) && WriteUint32(RECORD_FLAGS) && WriteUint64(value) && WriteUint64(0))) {
+    if (!(WriteUint32(type) && WriteUint32(FlatObject::FLAGS) && WriteUint64(value) && WriteUint64(0))) {
         RewindWrite(start);
         return false;
     }
     carried_[start] = carried;
-    AddObject(start, RECORD_SIZE);
+    AddObject(start, FlatObject::SIZE);
     return true;
 }
 
@@ -77,13 +73,13 @@ const MessageParcel::Carried* MessageParcel::CarriedAtReadPosition(CarriedKind k
 {
     const size_t position = GetReadPosition();
     auto it = carried_.find(position);
-    if (it == carried_.end() || it->second.kind != kind || GetReadableBytes() < RECORD_SIZE) {
+    if (it == carried_.end() || it->second.kind != kind || GetReadableBytes() < FlatObject::SIZE) {
         return nullptr;
     }
     // The bytes may have been rewritten since (RewindWrite); the record must still be there.
     const uint32_t type = RecordTypeAt(reinterpret_cast<const uint8_t*>(GetData()), position);
-    const bool objectRecord = type == BINDER_TYPE_BINDER || type == BINDER_TYPE_HANDLE;
-    if (kind == CarriedKind::OBJECT ? !objectRecord : type != BINDER_TYPE_FD) {
+    const bool objectRecord = type == FlatObject::TYPE_BINDER || type == FlatObject::TYPE_HANDLE;
+    if (kind == CarriedKind::OBJECT ? !objectRecord : type != FlatObject::TYPE_FD) {
         return nullptr;
     }
     return &it->second;
@@ -94,7 +90,7 @@ bool MessageParcel::WriteRemoteObject(const sptr<IRemoteObject>& object)
     if (object == nullptr) {
         return false;
     }
-    const uint32_t type = object->IsProxyObject() ? BINDER_TYPE_HANDLE : BINDER_TYPE_BINDER;
+    const uint32_t type = object->IsProxyObject() ? FlatObject::TYPE_HANDLE : FlatObject::TYPE_BINDER;
     return WriteRecord(type, 0, Carried{CarriedKind::OBJECT, object, INVALID_FD});
 }
 
@@ -105,7 +101,7 @@ sptr<IRemoteObject> MessageParcel::ReadRemoteObject()
         return nullptr;
     }
     sptr<IRemoteObject> object = carried->object;
-    SkipBytes(RECORD_SIZE);
+    SkipBytes(FlatObject::SIZE);
     return object;
 }
 
@@ -119,7 +115,7 @@ bool MessageParcel::WriteFileDescriptor(int fd)
         IPC_HOST_LOGE("dup of fd %{public}d failed, errno %{public}d", fd, errno);
         return false;
     }
-    if (!WriteRecord(BINDER_TYPE_FD, static_cast<uint64_t>(copy), Carried{CarriedKind::FD, nullptr, copy})) {
+    if (!WriteRecord(FlatObject::TYPE_FD, static_cast<uint64_t>(copy), Carried{CarriedKind::FD, nullptr, copy})) {
         close(copy);
         return false;
     }
@@ -137,7 +133,7 @@ int MessageParcel::ReadFileDescriptor()
         IPC_HOST_LOGE("dup of carried fd failed, errno %{public}d", errno);
         return INVALID_FD;
     }
-    SkipBytes(RECORD_SIZE);
+    SkipBytes(FlatObject::SIZE);
     return copy;
 }
 
@@ -216,7 +212,7 @@ bool MessageParcel::WriteSharedMemoryBlock(const void* data, size_t size)
         close(fd);
         return false;
     }
-    if (!WriteRecord(BINDER_TYPE_FD, static_cast<uint64_t>(fd), Carried{CarriedKind::FD, nullptr, fd})) {
+    if (!WriteRecord(FlatObject::TYPE_FD, static_cast<uint64_t>(fd), Carried{CarriedKind::FD, nullptr, fd})) {
         close(fd);
         return false;
     }
@@ -257,7 +253,7 @@ const void* MessageParcel::MapSharedMemoryBlock(size_t size)
         IPC_HOST_LOGE("mmap of %{public}zu bytes failed, errno %{public}d", size, errno);
         return nullptr;
     }
-    SkipBytes(RECORD_SIZE);
+    SkipBytes(FlatObject::SIZE);
     mappings_.emplace_back(mapping, size);
     rawData_ = mapping;
     rawDataSize_ = size;

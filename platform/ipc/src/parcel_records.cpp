@@ -3,15 +3,11 @@
 #include <cstring>
 #include <unistd.h>
 
+#include "flat_object.h"
 #include "ipc_log.h"
 
 namespace OHOS {
 namespace {
-constexpr uint32_t BINDER_TYPE_BINDER = 0x73622a85;
-constexpr uint32_t BINDER_TYPE_HANDLE = 0x73682a85;
-constexpr size_t RECORD_SIZE = 24;
-constexpr size_t RECORD_VALUE_OFFSET = 8;
-constexpr size_t RECORD_VALUE_SIZE = 16;
 
 void CloseAll(const std::vector<ParcelRecord>& records)
 {
@@ -28,7 +24,7 @@ std::vector<ParcelRecord> ParcelRecords::Of(const MessageParcel& parcel)
     std::vector<ParcelRecord> records;
     for (const auto& [offset, carried] : parcel.carried_) {
         // A record overwritten after a rewind is plain data now; one cut off by SetDataSize does not travel.
-        if (!parcel.HasObjectAt(offset) || offset + RECORD_SIZE > parcel.GetDataSize()) {
+        if (!parcel.HasObjectAt(offset) || offset + FlatObject::SIZE > parcel.GetDataSize()) {
             continue;
         }
         const bool object = carried.kind == MessageParcel::CarriedKind::OBJECT;
@@ -45,12 +41,12 @@ bool ParcelRecords::Append(MessageParcel& parcel, uint8_t* bytes, size_t size, s
             return false;
         }
         if (record.object != nullptr) {
-            const uint32_t type = record.object->IsProxyObject() ? BINDER_TYPE_HANDLE : BINDER_TYPE_BINDER;
+            const uint32_t type = record.object->IsProxyObject() ? FlatObject::TYPE_HANDLE : FlatObject::TYPE_BINDER;
             std::memcpy(bytes + record.offset, &type, sizeof(type));
-            std::memset(bytes + record.offset + RECORD_VALUE_OFFSET, 0, RECORD_VALUE_SIZE);
+            std::memset(bytes + record.offset + FlatObject::VALUE_OFFSET, 0, FlatObject::VALUE_SIZE);
         } else {
             const uint64_t value = static_cast<uint64_t>(record.fd);
-            std::memcpy(bytes + record.offset + RECORD_VALUE_OFFSET, &value, sizeof(value));
+            std::memcpy(bytes + record.offset + FlatObject::VALUE_OFFSET, &value, sizeof(value));
         }
     }
     if (size == 0) {
@@ -71,7 +67,7 @@ bool ParcelRecords::Append(MessageParcel& parcel, uint8_t* bytes, size_t size, s
         parcel.carried_[base + record.offset] =
             MessageParcel::Carried{object ? MessageParcel::CarriedKind::OBJECT : MessageParcel::CarriedKind::FD,
                                    std::move(record.object), object ? INVALID_FD : record.fd};
-        parcel.AddObject(base + record.offset, RECORD_SIZE);
+        parcel.AddObject(base + record.offset, FlatObject::SIZE);
     }
     return true;
 }

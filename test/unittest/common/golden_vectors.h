@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <fstream>
 #include <map>
 #include <string>
@@ -31,8 +32,16 @@ inline std::vector<uint8_t> BytesFromHex(const std::string& hex)
     return bytes;
 }
 
+// test/data/golden.txt where the build put it (a device: where the suite's resources were pushed), unless the
+// environment names another folder, as a host run of the device build does.
+inline std::string GoldenVectorsPath()
+{
+    const char* folder = std::getenv("SHARE_TEST_DATA_DIR");
+    return std::string(folder != nullptr ? folder : SHARE_TEST_DATA_DIR) + "/golden.txt";
+}
+
 // All cases by name; empty when the file cannot be read.
-inline std::map<std::string, GoldenVector> LoadGoldenVectors(const std::string& path)
+inline std::map<std::string, GoldenVector> LoadGoldenVectors(const std::string& path = GoldenVectorsPath())
 {
     std::map<std::string, GoldenVector> vectors;
     std::ifstream file(path);

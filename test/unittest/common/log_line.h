@@ -11,7 +11,7 @@
 
 #include <gtest/gtest.h>
 
-#include "hilog/log_capture.h"
+#include "captured_log.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -29,12 +29,12 @@ inline bool operator==(const LogLine& left, const LogLine& right)
 }
 
 // How often the line was logged: its text follows the "[file:line] function# " prefix.
-inline size_t Logged(const HiviewDFX::ScopedLogCapture& log, const LogLine& line)
+inline size_t Logged(const CapturedLog& log, const LogLine& line)
 {
     return line.text.empty() ? 0 : log.Count(line.tag, "# " + line.text, line.level);
 }
 
-inline void ExpectLines(const HiviewDFX::ScopedLogCapture& log, const std::vector<LogLine>& lines)
+inline void ExpectLines(const CapturedLog& log, const std::vector<LogLine>& lines)
 {
     for (const LogLine& line : lines) {
         if (!line.text.empty()) {
@@ -44,7 +44,7 @@ inline void ExpectLines(const HiviewDFX::ScopedLogCapture& log, const std::vecto
     }
 }
 
-inline size_t ErrorLines(const HiviewDFX::ScopedLogCapture& log, const std::string& tag)
+inline size_t ErrorLines(const CapturedLog& log, const std::string& tag)
 {
     return log.Count(tag, "", LOG_ERROR);
 }

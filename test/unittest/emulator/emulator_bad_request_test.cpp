@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "captured_log.h"
 #include "emulator_test_fixture.h"
-#include "hilog/log_capture.h"
 #include "ipc_types.h"
 
 namespace OHOS {
@@ -128,7 +128,7 @@ TEST_P(EmulatorBadRequestTest, IsRefusedWithAnErrorAndTheServiceKeepsAnswering)
 {
     const BadRequest& bad = GetParam();
     const sptr<IRemoteObject>& service = bad.target == Target::SHARE_SERVICE ? shareService_ : shareManager_;
-    HiviewDFX::ScopedLogCapture log;
+    CapturedLog log;
     MessageParcel data;
     MessageParcel reply;
     bad.write(data);

@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include "captured_log.h"
 #include "common_share_object.h"
 #include "data_bean.h"
-#include "hilog/log_capture.h"
 #include "parcel_bytes.h"
 
 namespace OHOS {
@@ -66,7 +66,7 @@ TEST(DescriptorRecordTest, ShareItemNamesTheDescriptorThatCannotTravel)
     OpenFile file;
     const ShareItem item = Item("file://docs/a", file.Fd());
     Parcel plain;
-    HiviewDFX::ScopedLogCapture log;
+    CapturedLog log;
     EXPECT_FALSE(item.WriteToParcel(plain));
     EXPECT_EQ(log.Count("ShareNapi", "WriteFileDescriptor failed, fd " + std::to_string(file.Fd()) + ".", LOG_ERROR),
               1u);
@@ -111,7 +111,7 @@ TEST(DescriptorRecordTest, CommonShareObjectFailsOnAnInvalidDescriptorWithBothLi
         CommonShareObject object;
         object.items = {Item("file://docs/ok", good.Fd()), Item("file://docs/bad", badFd)};
         MessageParcel parcel;
-        HiviewDFX::ScopedLogCapture log;
+        CapturedLog log;
         EXPECT_FALSE(object.WriteToParcel(parcel));
         EXPECT_EQ(log.Count("ShareNapi", "", LOG_ERROR), 2u);
         EXPECT_TRUE(log.Contains("ShareNapi", "WriteFileDescriptor failed, fd " + std::to_string(badFd) + "."));

@@ -2,7 +2,7 @@
 // lines of both sides.
 #include <gtest/gtest.h>
 
-#include "hilog/log_capture.h"
+#include "captured_log.h"
 #include "message_parcel.h"
 #include "parcel_bytes.h"
 #include "parcel_util.h"
@@ -33,7 +33,7 @@ TEST(ParcelUtilTest, WritesTheSizeWordThenTheTextWithItsZeroAndSaysHowLong)
     };
     for (const auto& c : cases) {
         MessageParcel parcel;
-        HiviewDFX::ScopedLogCapture log;
+        CapturedLog log;
         ASSERT_TRUE(ParcelUtil::WriteBigString(parcel, c.text));
         EXPECT_EQ(BytesOf(parcel), c.bytes);
         EXPECT_EQ(log.Count(WRITER, c.line, LOG_INFO), 1u);
@@ -53,7 +53,7 @@ TEST(ParcelUtilTest, RoundTripsTextsInlineAndThroughSharedMemoryUpToTheBound)
         ASSERT_TRUE(ParcelUtil::WriteBigString(parcel, text));
         EXPECT_EQ(parcel.ContainFileDescriptors(), length + 1 > MessageParcel::MAX_INLINE_RAW_DATA_SIZE);
         std::string out = UNTOUCHED;
-        HiviewDFX::ScopedLogCapture log;
+        CapturedLog log;
         ASSERT_TRUE(Read(parcel, out));
         EXPECT_TRUE(out == text);
         const std::string line =
@@ -94,7 +94,7 @@ TEST(ParcelUtilTest, RefusesBrokenBlocksNamingWhyAndLeavesTheTextAsItWas)
         SCOPED_TRACE(c.name);
         MessageParcel parcel;
         c.write(parcel);
-        HiviewDFX::ScopedLogCapture log;
+        CapturedLog log;
         std::string out = UNTOUCHED;
         EXPECT_EQ(Read(parcel, out), c.ok);
         EXPECT_EQ(out, UNTOUCHED);
@@ -108,7 +108,7 @@ TEST(ParcelUtilTest, EndsTheTextAtTheFirstZeroInsideTheBlock)
 {
     MessageParcel parcel;
     Block(6, std::string("ab\0cd\0", 6))(parcel);
-    HiviewDFX::ScopedLogCapture log;
+    CapturedLog log;
     std::string out = UNTOUCHED;
     ASSERT_TRUE(Read(parcel, out));
     EXPECT_EQ(out, "ab");
@@ -119,7 +119,7 @@ TEST(ParcelUtilTest, NamesEachWriteThatFails)
 {
     MessageParcel full;
     FillLeaving(full, 0);
-    HiviewDFX::ScopedLogCapture log;
+    CapturedLog log;
     EXPECT_FALSE(ParcelUtil::WriteBigString(full, "text"));
     EXPECT_EQ(log.Count(WRITER, "Write message size failed.", LOG_ERROR), 1u);
 

@@ -12,10 +12,10 @@
 #include <gtest/gtest.h>
 
 #include "bytes_info.h"
+#include "captured_log.h"
 #include "common_share_object.h"
 #include "contact_info.h"
 #include "golden_vectors.h"
-#include "hilog/log_capture.h"
 #include "message_parcel.h"
 #include "parcel_bytes.h"
 #include "permanent_device_info.h"
@@ -247,7 +247,7 @@ TEST_P(RecordWriterTest, WritesTheLayoutAndFailsWithTheFieldsTextWhereTheRoomEnd
         SCOPED_TRACE("room ends at field " + std::to_string(i));
         MessageParcel parcel;
         FillLeaving(parcel, offsets[i]);
-        HiviewDFX::ScopedLogCapture log;
+        CapturedLog log;
         EXPECT_FALSE(record.write(parcel));
         const char* text = record.layout[i].writeFailure;
         EXPECT_EQ(log.Count(record.writeTag, "", LOG_ERROR), text == nullptr ? 0u : 1u);
@@ -277,7 +277,7 @@ TEST_P(RecordReaderTest, ReadsTheLayoutBackAndRefusesItCutAtAnyByteNamingTheFiel
         SCOPED_TRACE("cut at field " + std::to_string(i));
         MessageParcel cut;
         LoadBytes(cut, bytes, offsets[i]);
-        HiviewDFX::ScopedLogCapture log;
+        CapturedLog log;
         EXPECT_EQ(record.read(cut), Read::FAILED);
         EXPECT_EQ(log.Lines().size(), field.readFailure == nullptr ? 0u : 1u);
         EXPECT_TRUE(field.readFailure == nullptr || log.Count(field.readTag, field.readFailure, LOG_ERROR) == 1);
@@ -299,7 +299,7 @@ INSTANTIATE_TEST_SUITE_P(Records, RecordReaderTest,
 
 const std::map<std::string, GoldenVector>& Golden()
 {
-    static const auto vectors = LoadGoldenVectors(SHARE_TEST_DATA_DIR "/golden.txt");
+    static const auto vectors = LoadGoldenVectors();
     return vectors;
 }
 

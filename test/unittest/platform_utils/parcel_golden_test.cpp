@@ -56,7 +56,7 @@ TEST(ParcelGoldenTest, WritesTheRecordedResultSizeLimitAndBytes)
          }},
         {"max_not_lowered", [](Parcel& p) { return !p.SetMaxCapacity(1024) && p.WriteInt32(1); }},
     };
-    const auto golden = Zelkon::LoadGoldenVectors(SHARE_TEST_DATA_DIR "/golden.txt");
+    const auto golden = Zelkon::LoadGoldenVectors();
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         ASSERT_EQ(golden.count(c.name), 1u);

@@ -32,7 +32,7 @@ TEST(ShareClientStartTest, TheFirstUseLoadsTheServiceAndAFailedFirstLoadIsAskedA
     EXPECT_EXIT(
         {
             RefuseShareLoads(1);
-            HiviewDFX::ScopedLogCapture log;
+            CapturedLog log;
             ShareClient::GetInstance();
             const bool logged = Logged(log, {CLIENT_TAG, LOG_ERROR, "LoadSystemAbility failed."}) == 1 &&
                                 Logged(log, {CLIENT_TAG, LOG_ERROR, "Failed to load zelkon SA."}) == 1;
@@ -43,7 +43,7 @@ TEST(ShareClientStartTest, TheFirstUseLoadsTheServiceAndAFailedFirstLoadIsAskedA
     LoadScript fail;
     fail.outcome = LoadScript::Outcome::FAIL;
     SamgrHostControl::ScriptLoads(fail);
-    HiviewDFX::ScopedLogCapture log;
+    CapturedLog log;
     ShareClient& client = ShareClient::GetInstance();
     IpcThreads::Drain();
     ExpectLines(log,

@@ -13,7 +13,7 @@
 
 #include <gtest/gtest.h>
 
-#include "hilog/log_capture.h"
+#include "captured_log.h"
 #include "ipc_threads.h"
 #include "iservice_registry.h"
 #include "log_line.h"
@@ -99,7 +99,7 @@ protected:
     size_t Logged(const LogLine& line) const { return Zelkon::Logged(log_, line); }
 
     sptr<ScriptedStub> stub_;
-    HiviewDFX::ScopedLogCapture log_;
+    CapturedLog log_;
 };
 
 } // namespace Zelkon

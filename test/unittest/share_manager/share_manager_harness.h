@@ -9,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-#include "hilog/log_capture.h"
+#include "captured_log.h"
 #include "iservice_registry.h"
 #include "log_line.h"
 #include "notice_counter.h"
@@ -61,7 +61,7 @@ protected:
     size_t Logged(const LogLine& line) const { return Zelkon::Logged(log_, line); }
 
     sptr<ScriptedStub> stub_;
-    HiviewDFX::ScopedLogCapture log_;
+    CapturedLog log_;
 };
 
 } // namespace Zelkon
