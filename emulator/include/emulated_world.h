@@ -29,6 +29,8 @@ struct EmulatedWorld {
     // field in `error` ("users[1].deviceType: ..."). Sections left out keep the built-in world's; fields left out
     // of a record are 0, false or empty.
     static std::optional<EmulatedWorld> FromJson(const std::string& text, std::string& error);
+    // FromJson of a file of at most 64 MiB; an unreadable file is refused with the reason in `error`.
+    static std::optional<EmulatedWorld> FromFile(const std::string& path, std::string& error);
     // Every section and every field, indented.
     std::string ToJson() const;
 };

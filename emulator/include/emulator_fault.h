@@ -31,6 +31,8 @@ struct EmulatorFault {
     static const char* const GRAMMAR;
     // Empty, with the reason in `error`, for a FAULT text that is not one of GRAMMAR's forms.
     static std::optional<EmulatorFault> Parse(const std::string& text, std::string& error);
+    // The FAULT text that Parse reads back as this fault.
+    std::string Text() const;
 };
 
 } // namespace Zelkon

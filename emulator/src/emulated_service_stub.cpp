@@ -1,10 +1,16 @@
 #include "emulated_service_stub.h"
 
+#include <chrono>
+#include <csignal>
+#include <optional>
+#include <thread>
+#include <unistd.h>
 #include <utility>
 
 #include "emulator_log.h"
 #include "field_text.h"
 #include "ipc_types.h"
+#include "remote_trace.h"
 #include "samgr_host_control.h"
 
 namespace OHOS {
@@ -12,6 +18,8 @@ namespace Zelkon {
 namespace {
 // Enough to end a reply in the middle of its last record, whatever that record's last field is.
 constexpr size_t TRUNCATED_BYTES = 4;
+// Long enough for a reply to leave before its process ends.
+constexpr auto REPLY_GRACE = std::chrono::milliseconds(50);
 
 std::vector<uint8_t> BytesOf(const MessageParcel& parcel)
 {
@@ -41,6 +49,14 @@ int EmulatedServiceStub::OnRemoteRequest(uint32_t code, MessageParcel& data, Mes
                                          MessageOption& option)
 {
     (void)option;
+    if (code == EMULATOR_TRACE_CODE) {
+        sptr<IRemoteObject> receiver = data.ReadRemoteObject();
+        channels_.trace->SetSink(receiver != nullptr ? TraceReceiver::SinkTo(receiver) : nullptr);
+        return ERR_NONE;
+    }
+    if (ending_) {
+        Die(FaultPlan::Death::BEFORE_REPLY);
+    }
     {
         std::lock_guard<std::mutex> lock(countsMutex_);
         ++requestCounts_[code];
@@ -66,7 +82,7 @@ int EmulatedServiceStub::OnRemoteRequest(uint32_t code, MessageParcel& data, Mes
         channels_.trace->Emit(decoded);
     }
     if (death != FaultPlan::Death::NONE) {
-        Die();
+        Die(death);
     }
     return decoded.result;
 }
@@ -92,11 +108,50 @@ void EmulatedServiceStub::CutIfTruncationArmed(ReplyWriter& writer)
     }
 }
 
-void EmulatedServiceStub::Die()
+int EmulatedServiceStub::Dump(int fd, const std::vector<std::u16string>& args)
+{
+    std::string answer;
+    if (args.empty()) {
+        constexpr int INDENT = 2;
+        answer = Dump().dump(INDENT, ' ', false, nlohmann::json::error_handler_t::replace);
+    } else {
+        std::string error = "expected --fault FAULT";
+        const std::optional<EmulatorFault> fault = args.size() == 2 && Narrow(args[0]) == "--fault"
+                                                       ? EmulatorFault::Parse(Narrow(args[1]), error)
+                                                       : std::nullopt;
+        if (!fault) {
+            EMULATOR_LOGE("%{public}s: dump arguments refused %{public}s", serviceName_.c_str(), error.c_str());
+            return ERR_INVALID_DATA;
+        }
+        Faults().Arm(*fault);
+        answer = "armed";
+    }
+    for (size_t written = 0; written < answer.size();) {
+        const ssize_t count = write(fd, answer.data() + written, answer.size() - written);
+        if (count <= 0) {
+            return ERR_INVALID_DATA;
+        }
+        written += static_cast<size_t>(count);
+    }
+    return ERR_NONE;
+}
+
+void EmulatedServiceStub::Die(FaultPlan::Death death)
 {
     EMULATOR_LOGI("%{public}s: the process of %{public}d dies, as a fault asked", serviceName_.c_str(),
                   systemAbilityId_);
-    SamgrHostControl::KillSystemAbility(systemAbilityId_);
+    if (!channels_.ownProcess) {
+        SamgrHostControl::KillSystemAbility(systemAbilityId_);
+        return;
+    }
+    if (death == FaultPlan::Death::BEFORE_REPLY) {
+        raise(SIGKILL);
+    }
+    ending_ = true;
+    std::thread([] {
+        std::this_thread::sleep_for(REPLY_GRACE);
+        raise(SIGKILL);
+    }).detach();
 }
 
 int EmulatedServiceStub::Dispatch(uint32_t code, MessageParcel& data, MessageParcel& reply, DecodedRequest& decoded)

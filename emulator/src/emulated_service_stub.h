@@ -6,6 +6,7 @@
 #ifndef EMULATED_SERVICE_STUB_H
 #define EMULATED_SERVICE_STUB_H
 
+#include <atomic>
 #include <functional>
 #include <map>
 #include <memory>
@@ -29,6 +30,9 @@ namespace Zelkon {
 struct ServiceChannels {
     std::shared_ptr<TraceChannel> trace;
     std::shared_ptr<FaultPlan> faults;
+    // A service in a process of its own dies by ending that process; one in the caller's process is killed in the
+    // system ability manager.
+    bool ownProcess = false;
 };
 
 class EmulatedServiceStub : public IPCObjectStub {
@@ -37,9 +41,11 @@ public:
                         ServiceChannels channels);
 
     int OnRemoteRequest(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option) override;
-    // The service's state, and its requests counted by code. (The platform's Dump(fd, args) stays beside it.)
-    using IPCObjectStub::Dump;
+    // The service's state, and its requests counted by code.
     nlohmann::ordered_json Dump();
+    // The platform's dump, as another process asks for it: no arguments write Dump() as JSON; "--fault FAULT" arms
+    // the fault here.
+    int Dump(int fd, const std::vector<std::u16string>& args) override;
 
 protected:
     // Decodes the request's fields; changes state and writes the reply only once all of them were read.
@@ -95,7 +101,7 @@ private:
     };
 
     int Dispatch(uint32_t code, MessageParcel& data, MessageParcel& reply, DecodedRequest& decoded);
-    void Die();
+    void Die(FaultPlan::Death death);
 
     const std::u16string token_;
     const std::string serviceName_;
@@ -104,6 +110,8 @@ private:
     std::map<uint32_t, Operation> operations_;
     std::mutex countsMutex_;
     std::map<uint32_t, uint64_t> requestCounts_;
+    // A process that dies after its reply: a request that arrives before the end finds it gone.
+    std::atomic<bool> ending_{false};
 };
 
 } // namespace Zelkon

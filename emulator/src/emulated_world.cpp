@@ -1,4 +1,10 @@
 #include "emulated_world.h"
+
+#include <cerrno>
+#include <cstring>
+#include <fstream>
+#include <vector>
+
 #include "emulated_record_fields.h"
 #include "json_field_reader.h"
 #include "json_field_writer.h"
@@ -16,6 +22,28 @@ std::optional<EmulatedWorld> EmulatedWorld::FromJson(const std::string& text, st
         error = refusal.what();
         return std::nullopt;
     }
+}
+
+std::optional<EmulatedWorld> EmulatedWorld::FromFile(const std::string& path, std::string& error)
+{
+    // A world is a few records and a preview text; more is a mistake, such as a device given as the file.
+    constexpr size_t MAX_WORLD_FILE = 64 * 1024 * 1024;
+    constexpr size_t READ_CHUNK = 64 * 1024;
+    std::ifstream file(path, std::ios::binary);
+    std::string text;
+    std::vector<char> chunk(READ_CHUNK);
+    while (file && (file.read(chunk.data(), static_cast<std::streamsize>(chunk.size())) || file.gcount() > 0)) {
+        text.append(chunk.data(), static_cast<size_t>(file.gcount()));
+        if (text.size() > MAX_WORLD_FILE) {
+            error = "larger than " + std::to_string(MAX_WORLD_FILE) + " bytes";
+            return std::nullopt;
+        }
+    }
+    if (!file.is_open() || file.bad()) {
+        error = std::string("cannot be read: ") + std::strerror(errno);
+        return std::nullopt;
+    }
+    return FromJson(text, error);
 }
 
 std::string EmulatedWorld::ToJson() const

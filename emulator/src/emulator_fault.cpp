@@ -82,5 +82,15 @@ std::optional<EmulatorFault> EmulatorFault::Parse(const std::string& text, std::
     return std::nullopt;
 }
 
+std::string EmulatorFault::Text() const
+{
+    for (const Form& form : FORMS) {
+        if (form.kind == kind) {
+            return form.number == Form::Number::NONE ? form.name : form.name + (":" + std::to_string(value));
+        }
+    }
+    return "";
+}
+
 } // namespace Zelkon
 } // namespace OHOS

@@ -1,13 +1,17 @@
 #include "share_emulator.h"
 
+#include <cstdio>
 #include <memory>
-#include <mutex>
+#include <sys/mman.h>
+#include <unistd.h>
 
 #include "emulator_log.h"
 #include "iservice_registry.h"
+#include "remote_trace.h"
 #include "samgr_host_control.h"
 #include "share_manager_stub.h"
 #include "share_service_stub.h"
+#include "string_ex.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -19,26 +23,46 @@ const ServiceChannels& Channels()
     return channels;
 }
 
-// The services' current processes, held weakly: a killed process is gone, whoever killed it.
-struct RunningServices {
-    std::mutex mutex;
-    wptr<ShareServiceStub> shareService;
-    wptr<ShareManagerStub> shareManager;
-};
-
-RunningServices& Running()
+sptr<IRemoteObject> RunningService(int32_t systemAbilityId)
 {
-    static RunningServices* running = new RunningServices();
-    return *running;
+    sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
+    return manager != nullptr ? manager->CheckSystemAbility(systemAbilityId) : nullptr;
 }
 
-template <typename Stub>
-nlohmann::ordered_json DumpOf(const wptr<Stub>& service)
+// What the service's platform dump writes for `args`, through a descriptor as another process's dump would; empty
+// if the dump fails.
+std::string DumpText(const sptr<IRemoteObject>& service, const std::vector<std::u16string>& args)
 {
-    sptr<Stub> running = service.promote();
-    nlohmann::ordered_json dump = {{"running", running != nullptr}};
-    if (running != nullptr) {
-        dump.update(running->Dump());
+    const int fd = memfd_create("emulator-dump", MFD_CLOEXEC);
+    std::string text;
+    if (fd >= 0 && service->Dump(fd, args) == ERR_NONE && lseek(fd, 0, SEEK_SET) == 0) {
+        char chunk[BUFSIZ];
+        for (ssize_t count; (count = read(fd, chunk, sizeof(chunk))) > 0;) {
+            text.append(chunk, static_cast<size_t>(count));
+        }
+    }
+    if (fd >= 0) {
+        close(fd);
+    }
+    return text;
+}
+
+// A fault for the share service of another process is armed there, the service loaded first if it is not running.
+void ArmInShareServiceProcess(const EmulatorFault& fault)
+{
+    sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
+    sptr<IRemoteObject> service = manager != nullptr ? manager->GetSystemAbility(EMULATED_SHARE_SERVICE_ID) : nullptr;
+    if (service == nullptr || DumpText(service, {u"--fault", Str8ToStr16(fault.Text())}) != "armed") {
+        EMULATOR_LOGE("fault %{public}s could not be armed in the share service", fault.Text().c_str());
+    }
+}
+
+nlohmann::ordered_json DumpOf(int32_t systemAbilityId)
+{
+    sptr<IRemoteObject> service = RunningService(systemAbilityId);
+    nlohmann::ordered_json dump = {{"running", service != nullptr}};
+    if (service != nullptr) {
+        dump.update(nlohmann::ordered_json::parse(DumpText(service, {}), nullptr, false));
     }
     return dump;
 }
@@ -47,21 +71,14 @@ nlohmann::ordered_json DumpOf(const wptr<Stub>& service)
 void ShareEmulator::Install(const EmulatedWorld& world)
 {
     Channels().faults->Clear();
-    SamgrHostControl::RegisterLoader(
-        EMULATED_SHARE_SERVICE_ID, [permanentDevices = world.permanentDevices]() -> sptr<IRemoteObject> {
-            EMULATOR_LOGI("share service %{public}d starting", EMULATED_SHARE_SERVICE_ID);
-            sptr<ShareServiceStub> service = new ShareServiceStub(Channels(), permanentDevices);
-            std::lock_guard<std::mutex> lock(Running().mutex);
-            Running().shareService = service;
-            return service;
-        });
+    SamgrHostControl::RegisterLoader(EMULATED_SHARE_SERVICE_ID,
+                                     [permanentDevices = world.permanentDevices]() -> sptr<IRemoteObject> {
+                                         EMULATOR_LOGI("share service %{public}d starting", EMULATED_SHARE_SERVICE_ID);
+                                         return sptr<IRemoteObject>(new ShareServiceStub(Channels(), permanentDevices));
+                                     });
     // A fresh share manager process; one left from an earlier install dies first.
     KillShareManagerService();
     sptr<ShareManagerStub> shareManager = new ShareManagerStub(Channels(), world);
-    {
-        std::lock_guard<std::mutex> lock(Running().mutex);
-        Running().shareManager = shareManager;
-    }
     sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
     if (manager == nullptr || manager->AddSystemAbility(EMULATED_SHARE_MANAGER_ID, shareManager) != 0) {
         EMULATOR_LOGE("share manager service %{public}d could not be added", EMULATED_SHARE_MANAGER_ID);
@@ -88,7 +105,20 @@ bool ShareEmulator::KillShareManagerService()
 
 void ShareEmulator::SetTraceSink(TraceSink sink)
 {
-    Channels().trace->SetSink(std::move(sink));
+    if (!SamgrHostControl::IsAcrossProcesses()) {
+        Channels().trace->SetSink(std::move(sink));
+        return;
+    }
+    sptr<IRemoteObject> receiver = sink ? new TraceReceiver(std::move(sink)) : nullptr;
+    for (int32_t id : {EMULATED_SHARE_SERVICE_ID, EMULATED_SHARE_MANAGER_ID}) {
+        sptr<IRemoteObject> service = RunningService(id);
+        MessageParcel data;
+        MessageParcel reply;
+        MessageOption option;
+        if (service != nullptr && data.WriteRemoteObject(receiver)) {
+            service->SendRequest(EMULATOR_TRACE_CODE, data, reply, option);
+        }
+    }
 }
 
 void ShareEmulator::InjectFault(const EmulatorFault& fault)
@@ -101,22 +131,19 @@ void ShareEmulator::InjectFault(const EmulatorFault& fault)
         SamgrHostControl::ScriptLoads({LoadScript::Outcome::SUCCEED, std::chrono::milliseconds(fault.value)});
         break;
     default:
-        Channels().faults->Arm(fault);
+        if (SamgrHostControl::IsAcrossProcesses()) {
+            ArmInShareServiceProcess(fault);
+        } else {
+            Channels().faults->Arm(fault);
+        }
         break;
     }
 }
 
 std::string ShareEmulator::DumpState()
 {
-    wptr<ShareServiceStub> shareService;
-    wptr<ShareManagerStub> shareManager;
-    {
-        std::lock_guard<std::mutex> lock(Running().mutex);
-        shareService = Running().shareService;
-        shareManager = Running().shareManager;
-    }
-    const nlohmann::ordered_json dump = {{"shareService", DumpOf(shareService)},
-                                         {"shareManager", DumpOf(shareManager)}};
+    const nlohmann::ordered_json dump = {{"shareService", DumpOf(EMULATED_SHARE_SERVICE_ID)},
+                                         {"shareManager", DumpOf(EMULATED_SHARE_MANAGER_ID)}};
     constexpr int INDENT = 2;
     return dump.dump(INDENT, ' ', false, nlohmann::json::error_handler_t::replace);
 }

@@ -1,6 +1,11 @@
 /*
  * Host: lets a test script the system ability manager. Abilities live "in other processes" that can be started
  * on demand by registered loaders, scripted to misbehave, and killed.
+ *
+ * Across processes: one process serves the manager at a socket (ServeAcrossProcesses) and starts abilities as
+ * processes of their own (RegisterProcess); a process whose environment names that socket in SOCKET_ENVIRONMENT
+ * uses that manager, and its KillSystemAbility, ScriptLoads, LookupCount and LoadCount act there. The other
+ * controls act in the calling process only.
  */
 #ifndef OHOS_SAMGR_SAMGR_HOST_CONTROL_H
 #define OHOS_SAMGR_SAMGR_HOST_CONTROL_H
@@ -8,6 +13,8 @@
 #include <chrono>
 #include <cstdint>
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "iremote_object.h"
 
@@ -32,6 +39,19 @@ class SamgrHostControl {
 public:
     // Creates the stub of an ability when it is loaded and not running.
     using Loader = std::function<sptr<IRemoteObject>()>;
+    // The command line that starts an ability's process, asked at each start.
+    using CommandLine = std::function<std::vector<std::string>()>;
+
+    static constexpr const char* SOCKET_ENVIRONMENT = "OHOS_HOST_SAMGR_SOCKET";
+
+    // This process serves the manager at the socket path for other processes. False (logged) if it cannot.
+    static bool ServeAcrossProcesses(const std::string& socketPath);
+    // A load starts the ability's process, which finds the manager through SOCKET_ENVIRONMENT and adds the
+    // ability; the load fails if it has not within 10 s. The process is killed with the manager's, and the
+    // ability forgotten when its process ends.
+    static void RegisterProcess(int32_t systemAbilityId, CommandLine commandLine);
+    // Whether this process uses the manager of another process.
+    static bool IsAcrossProcesses();
 
     static void RegisterLoader(int32_t systemAbilityId, Loader loader);
     // The next `count` loads (of any id) follow `script`, then loads behave normally again.
@@ -39,9 +59,9 @@ public:
     static void SetManagerUnavailable(bool unavailable);
     // Applies to the remote objects of every ability, present and future.
     static void SetDeathRecipientsRefused(bool refused);
-    // The process of the ability dies: its remote object answers ERR_DEAD_OBJECT, its recipients are told (before
-    // this returns, unless called on an IPC thread), and the id is absent until it is added or loaded again. False
-    // if it was not running.
+    // The process of the ability dies (SIGKILL for a process of its own): its remote object answers ERR_DEAD_OBJECT,
+    // its recipients are told (before this returns, unless called on an IPC thread), and the id is absent until it
+    // is added or loaded again. False if it was not running.
     static bool KillSystemAbility(int32_t systemAbilityId);
     // CheckSystemAbility and GetSystemAbility calls for the id.
     static int LookupCount(int32_t systemAbilityId);

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "nocopyable.h"
 #include "refbase.h"
@@ -84,6 +85,7 @@ public:
     bool WriteCString(const char* value);
     bool WriteString(const std::string& value);
     bool WriteString16(const std::u16string& value);
+    bool WriteString16Vector(const std::vector<std::u16string>& values);
     bool WriteParcelable(const Parcelable* object);
     bool WriteStrongParcelable(const sptr<Parcelable>& object);
 
@@ -117,6 +119,8 @@ public:
     bool ReadString(std::string& value);
     std::u16string ReadString16();
     bool ReadString16(std::u16string& value);
+    // A count then each text; false (and nothing kept) if the count is negative or runs past the data.
+    bool ReadString16Vector(std::vector<std::u16string>* values);
 
     template <typename T>
     T* ReadParcelable()

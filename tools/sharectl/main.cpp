@@ -2,9 +2,6 @@
  * sharectl: runs the share client library against the emulated share services, a whole session, a canned command
  * or any single operation, and tells what happened.
  */
-#include <cerrno>
-#include <cstring>
-#include <fstream>
 #include <iostream>
 #include <vector>
 
@@ -23,32 +20,14 @@ using namespace OHOS::Zelkon;
 
 constexpr int EXIT_FAILED = 1;
 constexpr int EXIT_USAGE = 2;
-// A world is a few records and a preview text; more is a mistake, such as a device given as the file.
-constexpr size_t MAX_WORLD_FILE = 64 * 1024 * 1024;
-constexpr size_t WORLD_READ_CHUNK = 64 * 1024;
 
 EmulatedWorld LoadWorld(const std::string& path)
 {
     if (path.empty()) {
         return EmulatedWorld::BuiltIn();
     }
-    std::ifstream file(path, std::ios::binary);
-    if (!file) {
-        throw UsageError("--world " + path + ": cannot be read: " + std::strerror(errno));
-    }
-    std::string text;
-    std::vector<char> chunk(WORLD_READ_CHUNK);
-    while (file.read(chunk.data(), static_cast<std::streamsize>(chunk.size())) || file.gcount() > 0) {
-        text.append(chunk.data(), static_cast<size_t>(file.gcount()));
-        if (text.size() > MAX_WORLD_FILE) {
-            throw UsageError("--world " + path + ": larger than " + std::to_string(MAX_WORLD_FILE) + " bytes");
-        }
-    }
-    if (file.bad()) {
-        throw UsageError("--world " + path + ": cannot be read: " + std::strerror(errno));
-    }
     std::string error;
-    std::optional<EmulatedWorld> world = EmulatedWorld::FromJson(text, error);
+    std::optional<EmulatedWorld> world = EmulatedWorld::FromFile(path, error);
     if (!world) {
         throw UsageError("--world " + path + ": " + error);
     }

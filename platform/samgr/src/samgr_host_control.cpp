@@ -2,9 +2,34 @@
 
 #include <utility>
 
+#include "host_samgr_connection.h"
+#include "ipc_host_transport.h"
+#include "ipc_threads.h"
 #include "system_ability_manager_host.h"
 
 namespace OHOS {
+namespace {
+// The manager of another process when this one is told to use it, else null: the control acts here.
+sptr<SystemAbilityManagerProxy> RemoteManager()
+{
+    return HostSamgrConnection::IsAcrossProcesses() ? HostSamgrConnection::Manager() : nullptr;
+}
+} // namespace
+
+bool SamgrHostControl::ServeAcrossProcesses(const std::string& socketPath)
+{
+    return SystemAbilityManagerHost::Instance().ServeAcrossProcesses(socketPath);
+}
+
+void SamgrHostControl::RegisterProcess(int32_t systemAbilityId, CommandLine commandLine)
+{
+    SystemAbilityManagerHost::Instance().RegisterProcess(systemAbilityId, std::move(commandLine));
+}
+
+bool SamgrHostControl::IsAcrossProcesses()
+{
+    return HostSamgrConnection::IsAcrossProcesses();
+}
 
 void SamgrHostControl::RegisterLoader(int32_t systemAbilityId, Loader loader)
 {
@@ -13,6 +38,10 @@ void SamgrHostControl::RegisterLoader(int32_t systemAbilityId, Loader loader)
 
 void SamgrHostControl::ScriptLoads(const LoadScript& script, int count)
 {
+    if (sptr<SystemAbilityManagerProxy> remote = RemoteManager(); remote != nullptr) {
+        remote->ScriptLoads(script, count);
+        return;
+    }
     SystemAbilityManagerHost::Instance().ScriptLoads(script, count);
 }
 
@@ -28,17 +57,31 @@ void SamgrHostControl::SetDeathRecipientsRefused(bool refused)
 
 bool SamgrHostControl::KillSystemAbility(int32_t systemAbilityId)
 {
-    return SystemAbilityManagerHost::Instance().Kill(systemAbilityId);
+    constexpr auto NOTICES_TIMEOUT = std::chrono::seconds(5);
+    if (HostSamgrConnection::IsAcrossProcesses()) {
+        sptr<SystemAbilityManagerProxy> remote = HostSamgrConnection::Manager();
+        const pid_t pid = remote != nullptr ? remote->Kill(systemAbilityId) : -1;
+        // The manager saw the end; this process's notices of it come from its own sessions.
+        if (pid > 0 && !IpcThreads::IsIpcThread()) {
+            IpcHostTransport::WaitForPeerGone(pid, NOTICES_TIMEOUT);
+        }
+        return pid >= 0;
+    }
+    return SystemAbilityManagerHost::Instance().Kill(systemAbilityId) >= 0;
 }
 
 int SamgrHostControl::LookupCount(int32_t systemAbilityId)
 {
-    return SystemAbilityManagerHost::Instance().LookupCount(systemAbilityId);
+    sptr<SystemAbilityManagerProxy> remote = RemoteManager();
+    return remote != nullptr ? remote->LookupCount(systemAbilityId)
+                             : SystemAbilityManagerHost::Instance().LookupCount(systemAbilityId);
 }
 
 int SamgrHostControl::LoadCount(int32_t systemAbilityId)
 {
-    return SystemAbilityManagerHost::Instance().LoadCount(systemAbilityId);
+    sptr<SystemAbilityManagerProxy> remote = RemoteManager();
+    return remote != nullptr ? remote->LoadCount(systemAbilityId)
+                             : SystemAbilityManagerHost::Instance().LoadCount(systemAbilityId);
 }
 
 void SamgrHostControl::Reset()

@@ -1,5 +1,6 @@
 #include "iservice_registry.h"
 
+#include "host_samgr_connection.h"
 #include "samgr_log.h"
 #include "system_ability_manager_host.h"
 
@@ -13,6 +14,9 @@ SystemAbilityManagerClient& SystemAbilityManagerClient::GetInstance()
 
 sptr<ISystemAbilityManager> SystemAbilityManagerClient::GetSystemAbilityManager()
 {
+    if (HostSamgrConnection::IsAcrossProcesses()) {
+        return HostSamgrConnection::Manager();
+    }
     SystemAbilityManagerHost& manager = SystemAbilityManagerHost::Instance();
     if (manager.IsUnavailable()) {
         SAMGR_HOST_LOGE("system ability manager is not reachable");

@@ -1,16 +1,17 @@
 #include "system_ability_manager_host.h"
 
-#include <condition_variable>
+#include <csignal>
 #include <string>
 #include <utility>
 
+#include "ipc_host_transport.h"
 #include "ipc_object_proxy.h"
 #include "ipc_threads.h"
+#include "load_waiter.h"
 #include "process_boundary.h"
 #include "samgr_log.h"
 #include "string_ex.h"
 #include "system_ability_definition.h"
-#include "system_ability_load_callback_stub.h"
 
 namespace OHOS {
 namespace {
@@ -19,19 +20,12 @@ bool IsValidId(int32_t systemAbilityId)
     return systemAbilityId >= FIRST_SYS_ABILITY_ID && systemAbilityId <= LAST_SYS_ABILITY_ID;
 }
 
-// Tells the callback (a local stub of the caller's process) the outcome, through the process boundary.
-void NotifyLoadCallback(const sptr<ISystemAbilityLoadCallback>& callback, uint32_t code, int32_t systemAbilityId,
+// Tells the callback the outcome: a local stub of the caller's process through the process boundary, a callback of
+// another process through the transport.
+void NotifyLoadCallback(const sptr<IRemoteObject>& callback, uint32_t code, int32_t systemAbilityId,
                         const sptr<IRemoteObject>& object)
 {
-    sptr<IRemoteObject> callbackObject = ProcessBoundary::Translate(callback->AsObject());
-    if (callbackObject == nullptr) {
-        if (code == ISystemAbilityLoadCallback::ON_LOAD_SYSTEM_ABILITY_SUCCESS) {
-            callback->OnLoadSystemAbilitySuccess(systemAbilityId, object);
-        } else {
-            callback->OnLoadSystemAbilityFail(systemAbilityId);
-        }
-        return;
-    }
+    sptr<IRemoteObject> callbackObject = ProcessBoundary::Translate(callback);
     MessageParcel data;
     MessageParcel reply;
     MessageOption option;
@@ -48,41 +42,18 @@ void NotifyLoadCallback(const sptr<ISystemAbilityLoadCallback>& callback, uint32
     }
 }
 
-class LoadWaiter : public SystemAbilityLoadCallbackStub {
+// Forgets an ability whose process ended, so that the next load starts it again.
+class AbilityDeath : public IRemoteObject::DeathRecipient {
 public:
-    using SystemAbilityLoadCallbackStub::OnLoadSystemAbilityFail;
-
-    void OnLoadSystemAbilitySuccess(int32_t systemAbilityId, const sptr<IRemoteObject>& remoteObject) override
+    AbilityDeath(SystemAbilityManagerHost& manager, int32_t systemAbilityId) :
+        manager_(manager), systemAbilityId_(systemAbilityId)
     {
-        (void)systemAbilityId;
-        Finish(remoteObject);
     }
-    void OnLoadSystemAbilityFail(int32_t systemAbilityId) override
-    {
-        (void)systemAbilityId;
-        Finish(nullptr);
-    }
-
-    sptr<IRemoteObject> Wait(std::chrono::seconds timeout)
-    {
-        std::unique_lock<std::mutex> lock(mutex_);
-        done_.wait_for(lock, timeout, [this] { return finished_; });
-        return object_;
-    }
+    void OnRemoteDied(const wptr<IRemoteObject>& object) override { manager_.Forget(systemAbilityId_, object); }
 
 private:
-    void Finish(const sptr<IRemoteObject>& object)
-    {
-        std::lock_guard<std::mutex> lock(mutex_);
-        object_ = object;
-        finished_ = true;
-        done_.notify_all();
-    }
-
-    std::mutex mutex_;
-    std::condition_variable done_;
-    bool finished_ = false;
-    sptr<IRemoteObject> object_;
+    SystemAbilityManagerHost& manager_;
+    const int32_t systemAbilityId_;
 };
 } // namespace
 
@@ -110,6 +81,21 @@ sptr<IRemoteObject> SystemAbilityManagerHost::Lookup(int32_t systemAbilityId)
     ++lookups_[systemAbilityId];
     auto it = abilities_.find(systemAbilityId);
     return it != abilities_.end() ? it->second : nullptr;
+}
+
+void SystemAbilityManagerHost::Forget(int32_t systemAbilityId, const wptr<IRemoteObject>& object)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    auto it = abilities_.find(systemAbilityId);
+    if (it == abilities_.end() || it->second != object.promote()) {
+        return;
+    }
+    SAMGR_HOST_LOGW("the process of system ability %{public}d ended", systemAbilityId);
+    abilities_.erase(it);
+    auto process = processes_.find(systemAbilityId);
+    if (process != processes_.end() && process->second->Ended()) {
+        processes_.erase(process);
+    }
 }
 
 sptr<IRemoteObject> SystemAbilityManagerHost::GetSystemAbility(int32_t systemAbilityId)
@@ -162,8 +148,14 @@ sptr<IRemoteObject> SystemAbilityManagerHost::Publish(int32_t systemAbilityId, c
     std::lock_guard<std::mutex> lock(mutex_);
     if (auto* proxy = dynamic_cast<IPCObjectProxy*>(remote.GetRefPtr()); proxy != nullptr) {
         proxy->RefuseDeathRecipients(deathRecipientsRefused_);
+    } else if (auto known = abilities_.find(systemAbilityId); known == abilities_.end() || known->second != remote) {
+        if (!remote->AddDeathRecipient(new AbilityDeath(*this, systemAbilityId))) {
+            SAMGR_HOST_LOGE("system ability %{public}d died as it was added", systemAbilityId);
+            return nullptr;
+        }
     }
     abilities_[systemAbilityId] = remote;
+    added_.notify_all();
     return remote;
 }
 
@@ -175,8 +167,7 @@ int32_t SystemAbilityManagerHost::AddSystemAbility(int32_t systemAbilityId, cons
         SAMGR_HOST_LOGE("refused system ability %{public}d", systemAbilityId);
         return ERR_INVALID_VALUE;
     }
-    Publish(systemAbilityId, ability);
-    return ERR_OK;
+    return Publish(systemAbilityId, ability) != nullptr ? ERR_OK : ERR_DEAD_OBJECT;
 }
 
 sptr<IRemoteObject> SystemAbilityManagerHost::FindOrStart(int32_t systemAbilityId)
@@ -205,15 +196,16 @@ sptr<IRemoteObject> SystemAbilityManagerHost::FindOrStart(int32_t systemAbilityI
 
 sptr<IRemoteObject> SystemAbilityManagerHost::LoadSystemAbility(int32_t systemAbilityId, int32_t timeout)
 {
-    sptr<LoadWaiter> waiter = new LoadWaiter();
-    if (LoadSystemAbility(systemAbilityId, waiter) != ERR_OK) {
-        return nullptr;
-    }
-    return waiter->Wait(std::chrono::seconds(timeout));
+    return LoadWaiter::Load(*this, systemAbilityId, timeout);
 }
 
 int32_t SystemAbilityManagerHost::LoadSystemAbility(int32_t systemAbilityId,
                                                     const sptr<ISystemAbilityLoadCallback>& callback)
+{
+    return Load(systemAbilityId, callback != nullptr ? callback->AsObject() : nullptr);
+}
+
+int32_t SystemAbilityManagerHost::Load(int32_t systemAbilityId, const sptr<IRemoteObject>& callback)
 {
     LoadScript script;
     {
@@ -246,7 +238,7 @@ int32_t SystemAbilityManagerHost::LoadSystemAbility(int32_t systemAbilityId, con
     return ERR_INVALID_OPERATION;
 }
 
-void SystemAbilityManagerHost::DeliverLoad(int32_t systemAbilityId, const sptr<ISystemAbilityLoadCallback>& callback,
+void SystemAbilityManagerHost::DeliverLoad(int32_t systemAbilityId, const sptr<IRemoteObject>& callback,
                                            const LoadScript& script)
 {
     switch (script.outcome) {
@@ -275,7 +267,56 @@ void SystemAbilityManagerHost::DeliverLoad(int32_t systemAbilityId, const sptr<I
 
 int32_t SystemAbilityManagerHost::UnloadSystemAbility(int32_t systemAbilityId)
 {
-    return Kill(systemAbilityId) ? ERR_OK : ERR_INVALID_VALUE;
+    return Kill(systemAbilityId) >= 0 ? ERR_OK : ERR_INVALID_VALUE;
+}
+
+bool SystemAbilityManagerHost::ServeAcrossProcesses(const std::string& socketPath)
+{
+    if (!IpcHostTransport::ServeContextObject(socketPath, this)) {
+        return false;
+    }
+    std::lock_guard<std::mutex> lock(mutex_);
+    socketPath_ = socketPath;
+    return true;
+}
+
+bool SystemAbilityManagerHost::IsServing()
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    return !socketPath_.empty();
+}
+
+void SystemAbilityManagerHost::RegisterProcess(int32_t systemAbilityId, SamgrHostControl::CommandLine commandLine)
+{
+    RegisterLoader(systemAbilityId, [this, systemAbilityId, commandLine = std::move(commandLine)] {
+        return StartProcess(systemAbilityId, commandLine());
+    });
+}
+
+sptr<IRemoteObject> SystemAbilityManagerHost::StartProcess(int32_t systemAbilityId,
+                                                           const std::vector<std::string>& commandLine)
+{
+    constexpr auto STARTUP_TIMEOUT = std::chrono::seconds(10);
+    ChildProcess::Options options;
+    std::unique_lock<std::mutex> lock(mutex_);
+    options.environment[SamgrHostControl::SOCKET_ENVIRONMENT] = socketPath_;
+    auto child = std::make_unique<ChildProcess>(commandLine, options);
+    if (!child->Started()) {
+        return nullptr;
+    }
+    const pid_t pid = child->Pid();
+    processes_[systemAbilityId] = std::move(child);
+    // The process adds its ability through this manager, on a thread that serves it.
+    const bool added = added_.wait_for(lock, STARTUP_TIMEOUT, [this, systemAbilityId, pid] {
+        auto it = abilities_.find(systemAbilityId);
+        return it != abilities_.end() && IpcHostTransport::PeerPid(it->second) == pid;
+    });
+    if (!added) {
+        SAMGR_HOST_LOGE("process %{public}d did not add system ability %{public}d", pid, systemAbilityId);
+        processes_.erase(systemAbilityId);
+        return nullptr;
+    }
+    return abilities_[systemAbilityId];
 }
 
 void SystemAbilityManagerHost::RegisterLoader(int32_t systemAbilityId, SamgrHostControl::Loader loader)
@@ -315,22 +356,37 @@ void SystemAbilityManagerHost::SetDeathRecipientsRefused(bool refused)
     }
 }
 
-bool SystemAbilityManagerHost::Kill(int32_t systemAbilityId)
+pid_t SystemAbilityManagerHost::Kill(int32_t systemAbilityId)
 {
+    constexpr auto END_TIMEOUT = std::chrono::seconds(5);
     sptr<IRemoteObject> ability;
+    std::unique_ptr<ChildProcess> process;
     {
         std::lock_guard<std::mutex> lock(mutex_);
         auto it = abilities_.find(systemAbilityId);
         if (it == abilities_.end()) {
-            return false;
+            return -1;
         }
         ability = std::move(it->second);
         abilities_.erase(it);
+        auto started = processes_.find(systemAbilityId);
+        if (started != processes_.end()) {
+            process = std::move(started->second);
+            processes_.erase(started);
+        }
     }
     if (auto* proxy = dynamic_cast<IPCObjectProxy*>(ability.GetRefPtr()); proxy != nullptr) {
         proxy->Kill();
+        return 0;
     }
-    return true;
+    const pid_t pid = IpcHostTransport::PeerPid(ability);
+    if (process != nullptr && process->Pid() == pid) {
+        process->Kill();
+    } else if (pid > 0) {
+        kill(pid, SIGKILL);
+    }
+    IpcHostTransport::WaitForPeerGone(pid, END_TIMEOUT);
+    return pid;
 }
 
 int SystemAbilityManagerHost::LookupCount(int32_t systemAbilityId)
@@ -352,10 +408,12 @@ void SystemAbilityManagerHost::Reset()
     IpcThreads::Drain();
     std::map<int32_t, sptr<IRemoteObject>> abilities;
     std::map<int32_t, SamgrHostControl::Loader> loaders;
+    std::map<int32_t, std::unique_ptr<ChildProcess>> processes;
     {
         std::lock_guard<std::mutex> lock(mutex_);
         abilities.swap(abilities_);
         loaders.swap(loaders_);
+        processes.swap(processes_);
         scripts_.clear();
         lookups_.clear();
         loads_.clear();

@@ -1,14 +1,20 @@
 /*
  * Host: the system ability manager of the emulated device. Every ability lives "in another process": callers
- * get the remote object that stands for it. Scripted by SamgrHostControl.
+ * get the remote object that stands for it. Scripted by SamgrHostControl. Served to other processes, it starts
+ * abilities as processes of their own and forgets an ability when its process ends.
  */
 #ifndef OHOS_SAMGR_SYSTEM_ABILITY_MANAGER_HOST_H
 #define OHOS_SAMGR_SYSTEM_ABILITY_MANAGER_HOST_H
 
+#include <condition_variable>
 #include <deque>
 #include <map>
+#include <memory>
 #include <mutex>
+#include <string>
+#include <sys/types.h>
 
+#include "child_process.h"
 #include "if_system_ability_manager.h"
 #include "iremote_stub.h"
 #include "samgr_host_control.h"
@@ -33,13 +39,22 @@ public:
     int32_t LoadSystemAbility(int32_t systemAbilityId, const std::string& deviceId,
                               const sptr<ISystemAbilityLoadCallback>& callback) override;
     int32_t UnloadSystemAbility(int32_t systemAbilityId) override;
+    // What other processes ask, when this process serves them.
+    int OnRemoteRequest(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option) override;
 
+    bool ServeAcrossProcesses(const std::string& socketPath);
+    bool IsServing();
+    void RegisterProcess(int32_t systemAbilityId, SamgrHostControl::CommandLine commandLine);
+    // Drops the ability if `object` is still the one registered for the id.
+    void Forget(int32_t systemAbilityId, const wptr<IRemoteObject>& object);
     void RegisterLoader(int32_t systemAbilityId, SamgrHostControl::Loader loader);
     void ScriptLoads(const LoadScript& script, int count);
     void SetUnavailable(bool unavailable);
     bool IsUnavailable();
     void SetDeathRecipientsRefused(bool refused);
-    bool Kill(int32_t systemAbilityId);
+    // -1 if the ability was not running, 0 if it ran in this process, else the pid of the process killed (its end
+    // seen here by the time this returns).
+    pid_t Kill(int32_t systemAbilityId);
     int LookupCount(int32_t systemAbilityId);
     int LoadCount(int32_t systemAbilityId);
     void Reset();
@@ -51,14 +66,19 @@ private:
     // The running ability, or the one its loader starts now; null if neither.
     sptr<IRemoteObject> FindOrStart(int32_t systemAbilityId);
     sptr<IRemoteObject> Publish(int32_t systemAbilityId, const sptr<IRemoteObject>& ability);
-    void DeliverLoad(int32_t systemAbilityId, const sptr<ISystemAbilityLoadCallback>& callback,
-                     const LoadScript& script);
+    int32_t Load(int32_t systemAbilityId, const sptr<IRemoteObject>& callback);
+    void DeliverLoad(int32_t systemAbilityId, const sptr<IRemoteObject>& callback, const LoadScript& script);
+    // Starts the ability's process and waits for it to add the ability.
+    sptr<IRemoteObject> StartProcess(int32_t systemAbilityId, const std::vector<std::string>& commandLine);
 
     std::mutex mutex_;
     // Serialises starts, so concurrent loads of an ability that is not running start one process, not two.
     std::mutex startMutex_;
     std::map<int32_t, sptr<IRemoteObject>> abilities_;
     std::map<int32_t, SamgrHostControl::Loader> loaders_;
+    std::map<int32_t, std::unique_ptr<ChildProcess>> processes_;
+    std::condition_variable added_;
+    std::string socketPath_;
     std::deque<LoadScript> scripts_;
     std::map<int32_t, int> lookups_;
     std::map<int32_t, int> loads_;

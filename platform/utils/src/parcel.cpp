@@ -272,6 +272,19 @@ bool Parcel::WriteString16(const std::u16string& value)
     return WriteText(value, INT32_MAX / 2);
 }
 
+bool Parcel::WriteString16Vector(const std::vector<std::u16string>& values)
+{
+    if (values.size() > static_cast<size_t>(INT32_MAX) || !WriteInt32(static_cast<int32_t>(values.size()))) {
+        return false;
+    }
+    for (const std::u16string& value : values) {
+        if (!WriteString16(value)) {
+            return false;
+        }
+    }
+    return true;
+}
+
 bool Parcel::WriteParcelable(const Parcelable* object)
 {
     if (object == nullptr) {
@@ -454,6 +467,24 @@ std::u16string Parcel::ReadString16()
 bool Parcel::ReadString16(std::u16string& value)
 {
     return ReadText(value);
+}
+
+bool Parcel::ReadString16Vector(std::vector<std::u16string>* values)
+{
+    int32_t count = 0;
+    // Each text takes at least one word, so a count beyond the words left is a lie.
+    if (values == nullptr || !ReadInt32(count) || count < 0 ||
+        static_cast<size_t>(count) > GetReadableBytes() / sizeof(int32_t)) {
+        return false;
+    }
+    std::vector<std::u16string> read(static_cast<size_t>(count));
+    for (std::u16string& value : read) {
+        if (!ReadString16(value)) {
+            return false;
+        }
+    }
+    *values = std::move(read);
+    return true;
 }
 
 } // namespace OHOS

@@ -1,0 +1,49 @@
+/*
+ * The emulated services as processes of their own, under a host system ability manager served by this process:
+ * the share service (65569) started on demand, the share manager service (65570) at once, each from the
+ * `share_emulator_service` executable. A process whose environment names the manager's socket
+ * (SamgrHostControl::SOCKET_ENVIRONMENT) reaches them there, and ShareEmulator's kills, faults, trace and dump act
+ * on those processes.
+ */
+#ifndef EMULATOR_PROCESSES_H
+#define EMULATOR_PROCESSES_H
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "emulator_fault.h"
+
+namespace OHOS {
+namespace Zelkon {
+
+class EmulatorProcesses {
+public:
+    struct Options {
+        std::string socketPath;
+        // The `share_emulator_service` executable.
+        std::string serviceExecutable;
+        // A world file of the `sharectl world` schema, or empty for the built-in world.
+        std::string worldFile;
+        // Load faults are scripted in the manager; the others are armed in the first share service started.
+        std::vector<EmulatorFault> faults;
+    };
+
+    // Where `sharectl serve` serves unless told otherwise: one socket per user.
+    static std::string DefaultSocketPath();
+    // Blocks SIGINT and SIGTERM in the calling thread (call it before any thread starts, so that every thread
+    // inherits the mask), serves the manager and starts the share manager service. False (logged) if the socket
+    // cannot be served or the share manager service does not start.
+    static bool Serve(const Options& options);
+    // Waits for SIGINT or SIGTERM, or, with `watchStarter`, for the process that started this one to let it go;
+    // then kills the service processes and stops serving.
+    static void WaitUntilStopped(bool watchStarter);
+    // The body of a service process: serves the ability until the manager's process lets it go. The exit status.
+    static int RunService(int32_t systemAbilityId, const std::string& worldFile,
+                          const std::vector<EmulatorFault>& faults);
+};
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // EMULATOR_PROCESSES_H

@@ -1,0 +1,67 @@
+/*
+ * share_emulator_service: the emulated share services in processes of their own.
+ *   share_emulator_service ability ID [--world FILE] [--fault FAULT]...   one service, started by the manager
+ *   share_emulator_service serve --socket PATH [--world FILE] [--fault FAULT]...
+ *                                          the manager with both services, until its starter lets it go
+ */
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include "child_process.h"
+#include "emulator_processes.h"
+#include "share_emulator.h"
+
+namespace {
+using namespace OHOS::Zelkon;
+
+std::vector<EmulatorFault> ParseFaults(const std::vector<std::string>& texts)
+{
+    std::vector<EmulatorFault> faults;
+    for (const std::string& text : texts) {
+        std::string error;
+        std::optional<EmulatorFault> fault = EmulatorFault::Parse(text, error);
+        if (!fault) {
+            throw CLI::ValidationError("--fault", error);
+        }
+        faults.push_back(*fault);
+    }
+    return faults;
+}
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    CLI::App app{"The emulated share services in processes of their own."};
+    app.require_subcommand(1);
+    int32_t systemAbilityId = 0;
+    EmulatorProcesses::Options options;
+    std::vector<std::string> faults;
+    CLI::App* ability = app.add_subcommand("ability", "One service, as the system ability manager starts it.");
+    ability->add_option("id", systemAbilityId, "The system ability id")
+        ->required()
+        ->check(CLI::IsMember({EMULATED_SHARE_SERVICE_ID, EMULATED_SHARE_MANAGER_ID}));
+    CLI::App* serve = app.add_subcommand("serve", "The system ability manager with both services.");
+    serve->add_option("--socket", options.socketPath, "The manager's socket")->required();
+    for (CLI::App* command : {ability, serve}) {
+        command->add_option("--world", options.worldFile, "A world file of the `sharectl world` schema");
+        command->add_option("--fault", faults, "A fault to arm (repeatable)");
+    }
+    options.serviceExecutable = OHOS::ChildProcess::OwnExecutable();
+    try {
+        app.parse(argc, argv);
+        options.faults = ParseFaults(faults);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error);
+    }
+    if (ability->parsed()) {
+        std::_Exit(EmulatorProcesses::RunService(systemAbilityId, options.worldFile, options.faults));
+    }
+    if (!EmulatorProcesses::Serve(options) || !OHOS::ChildProcess::SayReady()) {
+        return EXIT_FAILURE;
+    }
+    EmulatorProcesses::WaitUntilStopped(true);
+    std::_Exit(EXIT_SUCCESS);
+}

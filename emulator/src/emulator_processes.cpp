@@ -1,0 +1,142 @@
+#include "emulator_processes.h"
+
+#include <csignal>
+#include <memory>
+#include <mutex>
+#include <pthread.h>
+#include <thread>
+#include <unistd.h>
+
+#include "child_process.h"
+#include "emulated_world.h"
+#include "emulator_log.h"
+#include "ipc_host_transport.h"
+#include "iservice_registry.h"
+#include "samgr_host_control.h"
+#include "share_emulator.h"
+#include "share_manager_stub.h"
+#include "share_service_stub.h"
+
+namespace OHOS {
+namespace Zelkon {
+namespace {
+// The faults for the first share service started; each plays once.
+class PendingFaults {
+public:
+    explicit PendingFaults(std::vector<EmulatorFault> faults) : faults_(std::move(faults)) {}
+    std::vector<EmulatorFault> Take()
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        return std::move(faults_);
+    }
+
+private:
+    std::mutex mutex_;
+    std::vector<EmulatorFault> faults_;
+};
+
+sigset_t StopSignals()
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGINT);
+    sigaddset(&signals, SIGTERM);
+    return signals;
+}
+
+std::vector<std::string> ServiceCommandLine(const EmulatorProcesses::Options& options, int32_t systemAbilityId)
+{
+    std::vector<std::string> line = {options.serviceExecutable, "ability", std::to_string(systemAbilityId)};
+    if (!options.worldFile.empty()) {
+        line.insert(line.end(), {"--world", options.worldFile});
+    }
+    return line;
+}
+} // namespace
+
+std::string EmulatorProcesses::DefaultSocketPath()
+{
+    return "/tmp/share-emulator-" + std::to_string(getuid()) + ".sock";
+}
+
+bool EmulatorProcesses::Serve(const Options& options)
+{
+    const sigset_t signals = StopSignals();
+    pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    if (!SamgrHostControl::ServeAcrossProcesses(options.socketPath)) {
+        return false;
+    }
+    std::vector<EmulatorFault> serviceFaults;
+    for (const EmulatorFault& fault : options.faults) {
+        if (fault.kind == EmulatorFault::Kind::LOAD_FAILS || fault.kind == EmulatorFault::Kind::LOAD_DELAYED) {
+            ShareEmulator::InjectFault(fault);
+        } else {
+            serviceFaults.push_back(fault);
+        }
+    }
+    auto pending = std::make_shared<PendingFaults>(std::move(serviceFaults));
+    SamgrHostControl::RegisterProcess(EMULATED_SHARE_SERVICE_ID, [options, pending] {
+        std::vector<std::string> line = ServiceCommandLine(options, EMULATED_SHARE_SERVICE_ID);
+        for (const EmulatorFault& fault : pending->Take()) {
+            line.insert(line.end(), {"--fault", fault.Text()});
+        }
+        return line;
+    });
+    SamgrHostControl::RegisterProcess(EMULATED_SHARE_MANAGER_ID,
+                                      [options] { return ServiceCommandLine(options, EMULATED_SHARE_MANAGER_ID); });
+    sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
+    if (manager->GetSystemAbility(EMULATED_SHARE_MANAGER_ID) == nullptr) {
+        EMULATOR_LOGE("the share manager service %{public}d did not start", EMULATED_SHARE_MANAGER_ID);
+        return false;
+    }
+    return true;
+}
+
+void EmulatorProcesses::WaitUntilStopped(bool watchStarter)
+{
+    if (watchStarter) {
+        std::thread([] {
+            ChildProcess::WaitForStarterGone();
+            kill(getpid(), SIGTERM);
+        }).detach();
+    }
+    const sigset_t signals = StopSignals();
+    int signal = 0;
+    sigwait(&signals, &signal);
+    SamgrHostControl::KillSystemAbility(EMULATED_SHARE_SERVICE_ID);
+    SamgrHostControl::KillSystemAbility(EMULATED_SHARE_MANAGER_ID);
+    IpcHostTransport::StopServingContextObject();
+}
+
+int EmulatorProcesses::RunService(int32_t systemAbilityId, const std::string& worldFile,
+                                  const std::vector<EmulatorFault>& faults)
+{
+    std::string error;
+    std::optional<EmulatedWorld> world =
+        worldFile.empty() ? EmulatedWorld::BuiltIn() : EmulatedWorld::FromFile(worldFile, error);
+    if (!world) {
+        EMULATOR_LOGE("world %{public}s: %{public}s", worldFile.c_str(), error.c_str());
+        return EXIT_FAILURE;
+    }
+    const ServiceChannels channels{std::make_shared<TraceChannel>(), std::make_shared<FaultPlan>(), true};
+    for (const EmulatorFault& fault : faults) {
+        channels.faults->Arm(fault);
+    }
+    sptr<IRemoteObject> service;
+    if (systemAbilityId == EMULATED_SHARE_SERVICE_ID) {
+        service = new ShareServiceStub(channels, world->permanentDevices);
+    } else {
+        service = new ShareManagerStub(channels, *world);
+    }
+    sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
+    if (manager == nullptr || manager->AddSystemAbility(systemAbilityId, service) != ERR_OK) {
+        EMULATOR_LOGE("system ability %{public}d could not be added", systemAbilityId);
+        return EXIT_FAILURE;
+    }
+    EMULATOR_LOGI("system ability %{public}d serves in process %{public}d", systemAbilityId, getpid());
+    ChildProcess::WaitForStarterGone();
+    return EXIT_SUCCESS;
+}
+
+} // namespace Zelkon
+} // namespace OHOS

@@ -1,0 +1,59 @@
+/*
+ * Host: a process this one starts, bound to its life. The child's standard input is a pipe that only this object
+ * writes: a child ends when it reads the end of it, so it cannot outlive its starter, whatever ends the starter
+ * (SIGKILL included). A child says it is ready by writing one line on its standard output.
+ */
+#ifndef OHOS_SAMGR_CHILD_PROCESS_H
+#define OHOS_SAMGR_CHILD_PROCESS_H
+
+#include <chrono>
+#include <map>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+namespace OHOS {
+
+class ChildProcess {
+public:
+    struct Options {
+        // Set in the child's environment, beside what this process has.
+        std::map<std::string, std::string> environment;
+        // Descriptors of this process that the child gets as 3, 4, ...
+        std::vector<int> inheritedFds;
+        // Waits this long for the child's ready line; zero waits for nothing.
+        std::chrono::milliseconds readyTimeout{0};
+    };
+
+    // Starts argv[0] (a path) with argv. Started() is false, and the reason logged, if it cannot be started or
+    // does not say it is ready in time (it is killed then).
+    ChildProcess(const std::vector<std::string>& argv, const Options& options);
+    // Killed and reaped.
+    ~ChildProcess();
+    ChildProcess(const ChildProcess&) = delete;
+    ChildProcess& operator=(const ChildProcess&) = delete;
+
+    bool Started() const { return pid_ > 0; }
+    pid_t Pid() const { return pid_; }
+    // SIGKILL, then reaped; nothing if it is gone already.
+    void Kill();
+    // True once it has ended (and is reaped).
+    bool Ended();
+
+    // The path of this process's executable.
+    static std::string OwnExecutable();
+    // What a child calls: blocks until its starter lets it go (its standard input ends), then returns.
+    static void WaitForStarterGone();
+    // What a child calls once it serves: the ready line.
+    static bool SayReady();
+
+private:
+    void Reap(int options);
+
+    pid_t pid_ = -1;
+    int lifeline_ = -1;
+};
+
+} // namespace OHOS
+
+#endif // OHOS_SAMGR_CHILD_PROCESS_H

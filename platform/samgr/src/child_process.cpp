@@ -1,0 +1,167 @@
+#include "child_process.h"
+
+#include <cerrno>
+#include <climits>
+#include <csignal>
+#include <cstring>
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "samgr_log.h"
+
+extern char** environ;
+
+namespace OHOS {
+namespace {
+constexpr char READY_LINE[] = "ready\n";
+constexpr size_t READY_LENGTH = sizeof(READY_LINE) - 1;
+constexpr int FIRST_INHERITED_FD = 3;
+
+std::vector<std::string> EnvironmentWith(const std::map<std::string, std::string>& additions)
+{
+    std::vector<std::string> entries;
+    for (char** entry = environ; *entry != nullptr; ++entry) {
+        const char* equals = std::strchr(*entry, '=');
+        const std::string name(*entry, equals != nullptr ? equals - *entry : std::strlen(*entry));
+        if (additions.count(name) == 0) {
+            entries.emplace_back(*entry);
+        }
+    }
+    for (const auto& [name, value] : additions) {
+        entries.push_back(name + "=" + value);
+    }
+    return entries;
+}
+
+std::vector<char*> Pointers(std::vector<std::string>& texts)
+{
+    std::vector<char*> pointers;
+    for (std::string& text : texts) {
+        pointers.push_back(text.data());
+    }
+    pointers.push_back(nullptr);
+    return pointers;
+}
+
+bool ReadReadyLine(int fd, std::chrono::milliseconds timeout)
+{
+    char line[READY_LENGTH] = {};
+    size_t got = 0;
+    const auto deadline = std::chrono::steady_clock::now() + timeout;
+    while (got < READY_LENGTH) {
+        const auto left =
+            std::chrono::duration_cast<std::chrono::milliseconds>(deadline - std::chrono::steady_clock::now());
+        pollfd wait{fd, POLLIN, 0};
+        if (left.count() <= 0 || poll(&wait, 1, static_cast<int>(left.count())) != 1) {
+            return false;
+        }
+        const ssize_t count = read(fd, line + got, READY_LENGTH - got);
+        if (count <= 0) {
+            return false;
+        }
+        got += static_cast<size_t>(count);
+    }
+    return std::memcmp(line, READY_LINE, READY_LENGTH) == 0;
+}
+} // namespace
+
+ChildProcess::ChildProcess(const std::vector<std::string>& argv, const Options& options)
+{
+    int lifeline[2];
+    int ready[2] = {-1, -1};
+    const bool waitsForReady = options.readyTimeout.count() > 0;
+    if (argv.empty() || pipe2(lifeline, O_CLOEXEC) != 0 || (waitsForReady && pipe2(ready, O_CLOEXEC) != 0)) {
+        SAMGR_HOST_LOGE("cannot start a child process, errno %{public}d", errno);
+        return;
+    }
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, lifeline[0], STDIN_FILENO);
+    if (waitsForReady) {
+        posix_spawn_file_actions_adddup2(&actions, ready[1], STDOUT_FILENO);
+    }
+    for (size_t i = 0; i < options.inheritedFds.size(); ++i) {
+        posix_spawn_file_actions_adddup2(&actions, options.inheritedFds[i], FIRST_INHERITED_FD + static_cast<int>(i));
+    }
+    std::vector<std::string> arguments = argv;
+    std::vector<std::string> environment = EnvironmentWith(options.environment);
+    const int spawned = posix_spawn(&pid_, arguments[0].c_str(), &actions, nullptr, Pointers(arguments).data(),
+                                    Pointers(environment).data());
+    posix_spawn_file_actions_destroy(&actions);
+    close(lifeline[0]);
+    lifeline_ = lifeline[1];
+    if (spawned != 0) {
+        SAMGR_HOST_LOGE("cannot start %{public}s: %{public}s", argv[0].c_str(), std::strerror(spawned));
+        pid_ = -1;
+    }
+    if (waitsForReady) {
+        close(ready[1]);
+        if (pid_ > 0 && !ReadReadyLine(ready[0], options.readyTimeout)) {
+            SAMGR_HOST_LOGE("%{public}s did not say it is ready", argv[0].c_str());
+            Kill();
+        }
+        close(ready[0]);
+    }
+}
+
+ChildProcess::~ChildProcess()
+{
+    Kill();
+    if (lifeline_ >= 0) {
+        close(lifeline_);
+    }
+}
+
+void ChildProcess::Kill()
+{
+    if (pid_ > 0) {
+        kill(pid_, SIGKILL);
+        Reap(0);
+    }
+}
+
+bool ChildProcess::Ended()
+{
+    if (pid_ > 0) {
+        Reap(WNOHANG);
+    }
+    return pid_ <= 0;
+}
+
+void ChildProcess::Reap(int options)
+{
+    pid_t reaped;
+    do {
+        reaped = waitpid(pid_, nullptr, options);
+    } while (reaped < 0 && errno == EINTR);
+    if (reaped == pid_ || (reaped < 0 && errno == ECHILD)) {
+        pid_ = -1;
+    }
+}
+
+std::string ChildProcess::OwnExecutable()
+{
+    std::string path(PATH_MAX, '\0');
+    const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
+    path.resize(length > 0 ? static_cast<size_t>(length) : 0);
+    return path;
+}
+
+void ChildProcess::WaitForStarterGone()
+{
+    char byte;
+    ssize_t count;
+    do {
+        count = read(STDIN_FILENO, &byte, 1);
+    } while (count > 0 || (count < 0 && errno == EINTR));
+}
+
+bool ChildProcess::SayReady()
+{
+    return write(STDOUT_FILENO, READY_LINE, READY_LENGTH) == static_cast<ssize_t>(READY_LENGTH);
+}
+
+} // namespace OHOS

@@ -1,0 +1,46 @@
+#include "host_samgr_connection.h"
+
+#include <cstdlib>
+#include <mutex>
+
+#include "ipc_host_transport.h"
+#include "samgr_log.h"
+#include "system_ability_manager_host.h"
+
+namespace OHOS {
+namespace {
+const char* SocketPath()
+{
+    const char* path = std::getenv(SamgrHostControl::SOCKET_ENVIRONMENT);
+    return path != nullptr && *path != '\0' ? path : nullptr;
+}
+} // namespace
+
+bool HostSamgrConnection::IsAcrossProcesses()
+{
+    return SocketPath() != nullptr && !SystemAbilityManagerHost::Instance().IsServing();
+}
+
+sptr<SystemAbilityManagerProxy> HostSamgrConnection::Manager()
+{
+    struct Connection {
+        std::mutex mutex;
+        sptr<IRemoteObject> remote;
+        sptr<SystemAbilityManagerProxy> manager;
+    };
+    // Kept for the life of the process: the manager may be asked for during exit.
+    static Connection* connection = new Connection();
+    std::lock_guard<std::mutex> lock(connection->mutex);
+    if (connection->remote == nullptr || connection->remote->IsObjectDead()) {
+        connection->remote = IpcHostTransport::ConnectToContextObject(SocketPath());
+        if (connection->remote == nullptr) {
+            SAMGR_HOST_LOGE("no system ability manager serves at %{public}s", SocketPath());
+            connection->manager = nullptr;
+            return nullptr;
+        }
+        connection->manager = new SystemAbilityManagerProxy(connection->remote);
+    }
+    return connection->manager;
+}
+
+} // namespace OHOS

@@ -1,0 +1,28 @@
+/*
+ * Host: the requests that the host system ability manager serves to other processes. The first ones are the
+ * manager's interface; the last ones are the host controls that a process across the boundary may use.
+ */
+#ifndef OHOS_SAMGR_SAMGR_HOST_CODE_H
+#define OHOS_SAMGR_SAMGR_HOST_CODE_H
+
+#include <cstdint>
+
+namespace OHOS {
+
+enum class SamgrHostCode : uint32_t {
+    LIST = 1,     // dump flags: int32 count, then each name
+    GET,          // id: the ability or none, after loading it if it can be loaded
+    CHECK,        // id: the ability or none
+    ADD,          // id, the ability: int32 result
+    REMOVE,       // id: int32 result
+    LOAD,         // id, the callback: int32 result; the outcome reaches the callback later
+    UNLOAD,       // id: int32 result
+    SCRIPT_LOADS, // outcome, delay in ms, other id, refuse code, count
+    KILL,         // id: int32 pid of the process killed, or -1
+    LOOKUP_COUNT, // id: int32
+    LOAD_COUNT,   // id: int32
+};
+
+} // namespace OHOS
+
+#endif // OHOS_SAMGR_SAMGR_HOST_CODE_H
