@@ -12,6 +12,7 @@
 #include "emulator_log.h"
 #include "ipc_host_transport.h"
 #include "iservice_registry.h"
+#include "remote_trace.h"
 #include "samgr_host_control.h"
 #include "share_emulator.h"
 #include "share_manager_stub.h"
@@ -129,7 +130,14 @@ int EmulatorProcesses::RunService(int32_t systemAbilityId, const std::string& wo
         service = new ShareManagerStub(channels, *world);
     }
     sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
-    if (manager == nullptr || manager->AddSystemAbility(systemAbilityId, service) != ERR_OK) {
+    if (manager == nullptr) {
+        EMULATOR_LOGE("no system ability manager for %{public}d", systemAbilityId);
+        return EXIT_FAILURE;
+    }
+    if (sptr<IRemoteObject> receiver = manager->CheckSystemAbility(EMULATOR_TRACE_RECEIVER_ID); receiver != nullptr) {
+        channels.trace->SetSink(TraceReceiver::SinkTo(receiver));
+    }
+    if (manager->AddSystemAbility(systemAbilityId, service) != ERR_OK) {
         EMULATOR_LOGE("system ability %{public}d could not be added", systemAbilityId);
         return EXIT_FAILURE;
     }

@@ -1,7 +1,7 @@
 /*
- * The trace of a service in another process: the caller hands the service a receiver object, and the service sends
- * it each decoded request as JSON before it replies, so that the caller sees the trace of a call by the time the
- * call returns, as in one process.
+ * The trace of a service in another process: the caller hands the service a receiver object (and registers it, for
+ * the services started later), and the service sends it each decoded request as JSON before it replies, so that
+ * the caller sees the trace of a call by the time the call returns, as in one process.
  */
 #ifndef REMOTE_TRACE_H
 #define REMOTE_TRACE_H
@@ -16,6 +16,8 @@ namespace Zelkon {
 
 // A host code of the emulated services, beyond every code of their interfaces: a receiver object, or none to stop.
 inline constexpr uint32_t EMULATOR_TRACE_CODE = 0x00FFFF01;
+// Where the receiver is registered with the system ability manager, so that a service started later finds it.
+inline constexpr int32_t EMULATOR_TRACE_RECEIVER_ID = 0x00FFFF01;
 
 class TraceReceiver : public IPCObjectStub {
 public:

@@ -110,6 +110,12 @@ void ShareEmulator::SetTraceSink(TraceSink sink)
         return;
     }
     sptr<IRemoteObject> receiver = sink ? new TraceReceiver(std::move(sink)) : nullptr;
+    sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
+    if (manager != nullptr && receiver != nullptr) {
+        manager->AddSystemAbility(EMULATOR_TRACE_RECEIVER_ID, receiver);
+    } else if (manager != nullptr) {
+        manager->RemoveSystemAbility(EMULATOR_TRACE_RECEIVER_ID);
+    }
     for (int32_t id : {EMULATED_SHARE_SERVICE_ID, EMULATED_SHARE_MANAGER_ID}) {
         sptr<IRemoteObject> service = RunningService(id);
         MessageParcel data;

@@ -28,7 +28,7 @@ public:
     // Starts argv[0] (a path) with argv. Started() is false, and the reason logged, if it cannot be started or
     // does not say it is ready in time (it is killed then).
     ChildProcess(const std::vector<std::string>& argv, const Options& options);
-    // Killed and reaped.
+    // Stopped.
     ~ChildProcess();
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
@@ -37,6 +37,8 @@ public:
     pid_t Pid() const { return pid_; }
     // SIGKILL, then reaped; nothing if it is gone already.
     void Kill();
+    // SIGTERM, so that it can stop what it started; SIGKILL if it has not ended within the grace time. Reaped.
+    void Stop(std::chrono::milliseconds grace = std::chrono::seconds(5));
     // True once it has ended (and is reaped).
     bool Ended();
 

@@ -6,6 +6,7 @@
 #include <CLI/CLI.hpp>
 
 #include "commands.h"
+#include "emulator_processes.h"
 #include "usage_error.h"
 
 namespace OHOS {
@@ -25,7 +26,8 @@ std::string Footer()
            "  sharectl call RemovePermanentDeviceById id=2\n"
            "  sharectl call PrepareSend deviceInfo='{\"deviceId\":\"dev-1001-phone\"}'\n"
            "  sharectl --fault die-in:26 call GetPermanentDeviceList\n"
-           "  sharectl world > world.json && sharectl --world world.json users\n";
+           "  sharectl world > world.json && sharectl --world world.json users\n"
+           "  sharectl serve    # and in another shell: sharectl --processes remove-device 2; sharectl dump\n";
 }
 
 // Only one command runs, so the canned commands' arguments share one string.
@@ -51,6 +53,8 @@ void AddToolCommands(CLI::App& app, CommandLine& line)
                      "NAME=VALUE, named as describe shows them; records as JSON; left out: 0, false, empty");
     app.add_subcommand(WORLD_COMMAND, "print the emulator's world as JSON: the built-in one, or --world's");
     app.add_subcommand(DUMP_COMMAND, "print each emulated service's state as JSON");
+    app.add_subcommand(SERVE_COMMAND, "run the system ability manager with both services in processes of their own, "
+                                      "until interrupted; --processes runs join it");
 }
 } // namespace
 
@@ -77,6 +81,12 @@ std::optional<CommandLine> ParseCommandLine(int argc, char* argv[])
         ->type_name("LEVEL");
     app.add_option("--world", line.worldFile, "start the emulator from this world file (the schema of 'world')")
         ->type_name("FILE");
+    line.socketPath = EmulatorProcesses::DefaultSocketPath();
+    app.add_flag("--processes", line.processes,
+                 "each service in a process of its own: join the 'serve' at --socket, or start one for this run");
+    app.add_option("--socket", line.socketPath, "the socket of the system ability manager of 'serve' and --processes")
+        ->type_name("PATH")
+        ->capture_default_str();
     app.add_option("--fault", faults, "inject a fault (see below); repeatable")
         ->allow_extra_args(false)
         ->type_name("FAULT");

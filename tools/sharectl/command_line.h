@@ -20,6 +20,7 @@ inline constexpr const char* DESCRIBE_COMMAND = "describe";
 inline constexpr const char* CALL_COMMAND = "call";
 inline constexpr const char* WORLD_COMMAND = "world";
 inline constexpr const char* DUMP_COMMAND = "dump";
+inline constexpr const char* SERVE_COMMAND = "serve";
 
 struct CommandLine {
     std::string command = "session";
@@ -34,6 +35,9 @@ struct CommandLine {
     bool trace = false;
     bool json = false;
     bool dump = false;
+    // Each service in a process of its own, under the system ability manager at the socket or one of this run's.
+    bool processes = false;
+    std::string socketPath;
     LogLevel logLevel = LOG_WARN;
 };
 

@@ -1,4 +1,5 @@
 #include "call_outcomes.h"
+#include "processes_world.h"
 #include "samgr_host_control.h"
 #include "session.h"
 #include "share_client.h"
@@ -10,10 +11,11 @@ namespace Zelkon {
 StepResult KillShareService(Session& session)
 {
     const int deaths = session.deathCounter->Deaths();
+    const std::string process = ProcessesWorld::ShareServiceNote();
     const bool killed = ShareEmulator::KillShareService();
     // The kill returns once its death notices have run: the count is final.
     const bool noticed = session.deathCounter->Deaths() == deaths + 1;
-    return {killed && noticed, std::string(killed ? "killed" : "was not running") +
+    return {killed && noticed, std::string(killed ? "killed" : "was not running") + process +
                                    (noticed ? ", OnShareSaDied called" : ", no death notice")};
 }
 
@@ -22,8 +24,8 @@ StepResult ReloadOnNextCall(Session& session)
     const int loads = SamgrHostControl::LoadCount(EMULATED_SHARE_SERVICE_ID);
     const int32_t result = ShareClient::GetInstance().Publish(session.remotes.publishListener);
     const int reloads = SamgrHostControl::LoadCount(EMULATED_SHARE_SERVICE_ID) - loads;
-    return {result == 1 && reloads == 1,
-            "Publish -> " + Accepted(result).Text() + " after " + std::to_string(reloads) + " new load request(s)"};
+    return {result == 1 && reloads == 1, "Publish -> " + Accepted(result).Text() + " after " + std::to_string(reloads) +
+                                             " new load request(s)" + ProcessesWorld::ShareServiceNote()};
 }
 
 } // namespace Zelkon

@@ -9,7 +9,9 @@
 #include "catalog_printer.h"
 #include "command_line.h"
 #include "commands.h"
+#include "emulator_processes.h"
 #include "hilog/log_threshold.h"
+#include "processes_world.h"
 #include "share_emulator.h"
 #include "step_runner.h"
 #include "trace_printer.h"
@@ -86,6 +88,22 @@ int Run(const Invocation& invocation, Session& session, Output& out)
     return 0;
 }
 
+// sharectl serve: the manager and both services until SIGINT or SIGTERM.
+int Serve(const CommandLine& line)
+{
+    EmulatorProcesses::Options options{line.socketPath, ProcessesWorld::ServiceExecutable(), line.worldFile,
+                                       line.faults};
+    if (!EmulatorProcesses::Serve(options)) {
+        std::cerr << "sharectl: cannot serve at " << line.socketPath << std::endl;
+        return EXIT_FAILED;
+    }
+    std::cout << "serving the share services at " << line.socketPath << " (share manager service in process "
+              << ProcessesWorld::ServicePid(EMULATED_SHARE_MANAGER_ID)
+              << "); join with: sharectl --processes ...; Ctrl-C stops" << std::endl;
+    EmulatorProcesses::WaitUntilStopped(false);
+    return 0;
+}
+
 void AddTraceAndState(const CommandLine& line, Session& session, Output& out)
 {
     if (line.trace && out.IsJson()) {
@@ -120,12 +138,28 @@ int main(int argc, char* argv[])
         return EXIT_USAGE;
     }
     OHOS::HiviewDFX::HiLogSetThreshold(line->logLevel);
+    if (line->command == SERVE_COMMAND) {
+        return Serve(*line);
+    }
+    std::unique_ptr<ProcessesWorld> processes;
+    if (line->processes) {
+        try {
+            processes = std::make_unique<ProcessesWorld>(*line);
+        } catch (const UsageError& error) {
+            std::cerr << "sharectl: " << error.what() << std::endl;
+            return EXIT_USAGE;
+        } catch (const std::runtime_error& error) {
+            std::cerr << "sharectl: " << error.what() << std::endl;
+            return EXIT_FAILED;
+        }
+    } else {
+        ShareEmulator::Install(invocation->world);
+        for (const EmulatorFault& fault : line->faults) {
+            ShareEmulator::InjectFault(fault);
+        }
+    }
     Output out(line->json);
     ShareEmulator::SetTraceSink([&session](const DecodedRequest& request) { session->requests.Record(request); });
-    ShareEmulator::Install(invocation->world);
-    for (const EmulatorFault& fault : line->faults) {
-        ShareEmulator::InjectFault(fault);
-    }
     int status = Run(*invocation, *session, out);
     AddTraceAndState(*line, *session, out);
     ShareEmulator::SetTraceSink(nullptr);

@@ -1,4 +1,5 @@
 #include "call_outcomes.h"
+#include "processes_world.h"
 #include "samgr_host_control.h"
 #include "session.h"
 #include "share_client.h"
@@ -67,8 +68,9 @@ StepResult LoadShareService(Session& session)
     Client().RegisterDiedCallback(session.deathCounter);
     const int32_t connected = Client().Connect();
     const int loads = SamgrHostControl::LoadCount(EMULATED_SHARE_SERVICE_ID);
-    return {connected == 0 && loads >= 1,
-            "Connect -> " + std::to_string(connected) + " after " + std::to_string(loads) + " load request(s)"};
+    return {connected == 0 && loads >= 1, "Connect -> " + std::to_string(connected) + " after " +
+                                              std::to_string(loads) + " load request(s)" +
+                                              ProcessesWorld::ShareServiceNote()};
 }
 
 StepResult PublishDevice(Session& session)

@@ -8,6 +8,7 @@
 #include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 #include "samgr_log.h"
@@ -109,7 +110,7 @@ ChildProcess::ChildProcess(const std::vector<std::string>& argv, const Options& 
 
 ChildProcess::~ChildProcess()
 {
-    Kill();
+    Stop();
     if (lifeline_ >= 0) {
         close(lifeline_);
     }
@@ -121,6 +122,20 @@ void ChildProcess::Kill()
         kill(pid_, SIGKILL);
         Reap(0);
     }
+}
+
+void ChildProcess::Stop(std::chrono::milliseconds grace)
+{
+    constexpr auto POLL_INTERVAL = std::chrono::milliseconds(5);
+    if (pid_ <= 0) {
+        return;
+    }
+    kill(pid_, SIGTERM);
+    const auto deadline = std::chrono::steady_clock::now() + grace;
+    while (!Ended() && std::chrono::steady_clock::now() < deadline) {
+        std::this_thread::sleep_for(POLL_INTERVAL);
+    }
+    Kill();
 }
 
 bool ChildProcess::Ended()

@@ -1,0 +1,74 @@
+#include "processes_world.h"
+
+#include <cstdlib>
+#include <stdexcept>
+#include <unistd.h>
+
+#include "emulator_processes.h"
+#include "ipc_host_transport.h"
+#include "iservice_registry.h"
+#include "samgr_host_control.h"
+#include "share_emulator.h"
+#include "usage_error.h"
+
+namespace OHOS {
+namespace Zelkon {
+namespace {
+constexpr auto START_TIMEOUT = std::chrono::seconds(10);
+
+bool Served(const std::string& socketPath)
+{
+    return access(socketPath.c_str(), F_OK) == 0 && IpcHostTransport::ConnectToContextObject(socketPath) != nullptr;
+}
+} // namespace
+
+ProcessesWorld::ProcessesWorld(const CommandLine& line) : socketPath_(line.socketPath)
+{
+    if (Served(socketPath_)) {
+        if (!line.worldFile.empty()) {
+            throw UsageError("--world: the services at " + socketPath_ + " run their own world already");
+        }
+    } else {
+        socketPath_ = "/tmp/sharectl-" + std::to_string(getpid()) + ".sock";
+        std::vector<std::string> command = {ServiceExecutable(), "serve", "--socket", socketPath_};
+        if (!line.worldFile.empty()) {
+            command.insert(command.end(), {"--world", line.worldFile});
+        }
+        for (const EmulatorFault& fault : line.faults) {
+            command.insert(command.end(), {"--fault", fault.Text()});
+        }
+        ChildProcess::Options options;
+        options.readyTimeout = START_TIMEOUT;
+        own_ = std::make_unique<ChildProcess>(command, options);
+        if (!own_->Started()) {
+            throw std::runtime_error("the system ability manager could not be started from " + command[0]);
+        }
+    }
+    setenv(SamgrHostControl::SOCKET_ENVIRONMENT, socketPath_.c_str(), 1);
+    if (Joined()) {
+        for (const EmulatorFault& fault : line.faults) {
+            ShareEmulator::InjectFault(fault);
+        }
+    }
+}
+
+pid_t ProcessesWorld::ServicePid(int32_t systemAbilityId)
+{
+    sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
+    return manager != nullptr ? IpcHostTransport::PeerPid(manager->CheckSystemAbility(systemAbilityId)) : -1;
+}
+
+std::string ProcessesWorld::ShareServiceNote()
+{
+    const pid_t pid = ServicePid(EMULATED_SHARE_SERVICE_ID);
+    return pid > 0 ? ", process " + std::to_string(pid) : "";
+}
+
+std::string ProcessesWorld::ServiceExecutable()
+{
+    const std::string own = ChildProcess::OwnExecutable();
+    return own.substr(0, own.rfind('/') + 1) + "share_emulator_service";
+}
+
+} // namespace Zelkon
+} // namespace OHOS
