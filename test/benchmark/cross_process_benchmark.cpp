@@ -1,7 +1,8 @@
 /*
- * A call across processes against the floor of any transport: the bare SendRequest of a small request to a peer
- * process, and a raw round trip of the same bytes over a socketpair between the same two processes. And calls from
- * eight threads across processes against one, to a stub that takes 2 ms.
+ * A call across processes against the floor of any transport: a whole ShareClient call to a share service in a peer
+ * process, and the bare SendRequest of its bytes, against a raw round trip of the same bytes over a socketpair
+ * between the same two processes. And calls from eight threads across processes against one, to a stub that takes
+ * 2 ms. Its own executable: its share client talks to the peer process, share_benchmark's to a local stub.
  */
 #include <benchmark/benchmark.h>
 
@@ -12,9 +13,12 @@
 #include <vector>
 
 #include "ipc_host_transport.h"
+#include "iservice_registry.h"
 #include "message_option.h"
 #include "message_parcel.h"
 #include "peer_process.h"
+#include "samgr_host_control.h"
+#include "share_client.h"
 
 namespace OHOS {
 namespace {
@@ -44,10 +48,26 @@ Peer& ThePeer()
     return *peer;
 }
 
+// The bytes of the share client's EnableDiscoveryPolicy(1).
 void WriteSmallRequest(MessageParcel& data)
 {
-    data.WriteInterfaceToken(PEER_DESCRIPTOR);
+    data.WriteInterfaceToken(u"ohos.Zelkon.ZelkonService");
     data.WriteInt32(1);
+}
+
+// The share client connected to the peer's stub that answers true, as its share service.
+bool ConnectShareClientToPeer()
+{
+    constexpr int32_t SHARE_SERVICE_ID = 65569;
+    MessageParcel data;
+    MessageParcel reply;
+    MessageOption option;
+    if (ThePeer().remote->SendRequest(GIVE_YES, data, reply, option) != ERR_NONE) {
+        return false;
+    }
+    sptr<IRemoteObject> yes = reply.ReadRemoteObject();
+    SamgrHostControl::RegisterLoader(SHARE_SERVICE_ID, [yes] { return yes; });
+    return Zelkon::ShareClient::GetInstance().Connect() == 0;
 }
 
 void BM_RawSocketRoundTrip(benchmark::State& state)
@@ -88,6 +108,22 @@ void BM_CrossProcessSendRequest(benchmark::State& state)
     }
 }
 BENCHMARK(BM_CrossProcessSendRequest);
+
+void BM_CrossProcessClientCall(benchmark::State& state)
+{
+    static const bool connected = ConnectShareClientToPeer();
+    if (!connected) {
+        state.SkipWithError("the share client cannot reach the peer");
+        return;
+    }
+    for (auto _ : state) {
+        if (Zelkon::ShareClient::GetInstance().EnableDiscoveryPolicy(1) != 1) {
+            state.SkipWithError("the call failed");
+            break;
+        }
+    }
+}
+BENCHMARK(BM_CrossProcessClientCall);
 
 void BM_CrossProcessConcurrentCalls(benchmark::State& state)
 {

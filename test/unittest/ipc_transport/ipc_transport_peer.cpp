@@ -44,6 +44,8 @@ public:
         }
         case GIVE_STUB:
             return Answer(reply.WriteRemoteObject(GivenStub()));
+        case GIVE_YES:
+            return Answer(reply.WriteRemoteObject(yes_));
         case STUBS_ALIVE:
             return Answer(reply.WriteInt32(Await(data.ReadInt32(), given_, true)));
         case HOLD:
@@ -67,6 +69,14 @@ public:
     }
 
 private:
+    class YesStub : public IPCObjectStub {
+    public:
+        int OnRemoteRequest(uint32_t, MessageParcel&, MessageParcel& reply, MessageOption&) override
+        {
+            return Answer(reply.WriteBool(true));
+        }
+    };
+
     // Lets the service know when the stub it gave out is gone.
     class GivenStubObject : public IPCObjectStub {
     public:
@@ -164,6 +174,7 @@ private:
     int arrived_ = 0;
     wptr<IRemoteObject> givenStub_;
     sptr<IRemoteObject> held_;
+    const sptr<IRemoteObject> yes_ = new YesStub();
 };
 
 // Echoes the bytes of each read back, for the benchmark's raw round trip.

@@ -27,6 +27,7 @@ enum PeerCode : uint32_t {
     CALL,        // int32: calls the held object with NESTED and that int32, replies what it answered
     RENDEZVOUS,  // int32 n: waits up to 5 s until n callers are inside at once: bool
     NESTED,      // what CALL sends to the held object
+    GIVE_YES,    // a stub that answers every request with true at once
 };
 
 class PeerProcess {
