@@ -3,11 +3,14 @@
  * either side shows up as a field that differs.
  */
 #include <algorithm>
+#include <memory>
 #include <mutex>
 #include <vector>
 
 #include "emulator_test_fixture.h"
+#include "ipc_host_transport.h"
 #include "sample_records.h"
+#include "services_in_processes.h"
 #include "share_manager_client.h"
 
 namespace OHOS {
@@ -16,15 +19,46 @@ namespace {
 
 using Fields = DecodedRequest::Fields;
 
-class EmulatorConformanceTest : public EmulatorTest {
+// Where the services run: in this process, or each in a process of its own under a manager served by a child of
+// this process. Every case runs in both.
+enum class World { IN_PROCESS, PROCESSES };
+
+class EmulatorConformanceTest : public EmulatorTest, public testing::WithParamInterface<World> {
 protected:
+    static void TearDownTestSuite() { processes_.reset(); }
+
     void SetUp() override
     {
-        EmulatorTest::SetUp();
+        if (GetParam() == World::IN_PROCESS) {
+            EmulatorTest::SetUp();
+        } else {
+            // Started once for the suite, at its first case across processes.
+            if (processes_ == nullptr) {
+                processes_ = std::make_unique<ServicesInProcesses>();
+            }
+            ASSERT_TRUE(processes_->Started());
+            processes_->Enter();
+            ASSERT_TRUE(SamgrHostControl::IsAcrossProcesses());
+            ReachServices(PROCESS_LOAD_TIMEOUT_SECONDS);
+            ASSERT_GT(IpcHostTransport::PeerPid(shareService_), 0);
+            ASSERT_NE(IpcHostTransport::PeerPid(shareService_), IpcHostTransport::PeerPid(shareManager_));
+        }
         ShareEmulator::SetTraceSink([this](const DecodedRequest& request) {
             std::lock_guard<std::mutex> lock(mutex_);
             traced_.push_back(request);
         });
+    }
+
+    void TearDown() override
+    {
+        if (GetParam() == World::IN_PROCESS) {
+            EmulatorTest::TearDown();
+        } else if (processes_ != nullptr) {
+            ShareEmulator::SetTraceSink(nullptr);
+            shareService_ = nullptr;
+            shareManager_ = nullptr;
+            processes_->Leave();
+        }
     }
 
     std::vector<DecodedRequest> Traced()
@@ -36,6 +70,9 @@ protected:
     static ShareManagerClient& Manager() { return ShareManagerClient::GetInstance(); }
 
 private:
+    static constexpr int32_t PROCESS_LOAD_TIMEOUT_SECONDS = 10;
+    static inline std::unique_ptr<ServicesInProcesses> processes_;
+
     std::mutex mutex_;
     std::vector<DecodedRequest> traced_;
 };
@@ -48,7 +85,7 @@ ShareDeviceInfo KnownDevice()
     return device;
 }
 
-TEST_F(EmulatorConformanceTest, DeviceRecordWrittenByTheLibraryDecodesFieldByField)
+TEST_P(EmulatorConformanceTest, DeviceRecordWrittenByTheLibraryDecodesFieldByField)
 {
     ASSERT_TRUE(Manager().PrepareSend(KnownDevice()));
 
@@ -82,7 +119,7 @@ TEST_F(EmulatorConformanceTest, DeviceRecordWrittenByTheLibraryDecodesFieldByFie
     EXPECT_EQ(traced[0].fields, expected);
 }
 
-TEST_F(EmulatorConformanceTest, UserListWrittenByTheEmulatorReadsCompletely)
+TEST_P(EmulatorConformanceTest, UserListWrittenByTheEmulatorReadsCompletely)
 {
     const std::vector<ShareDeviceInfo> users = Manager().GetAllUserList();
 
@@ -97,7 +134,7 @@ TEST_F(EmulatorConformanceTest, UserListWrittenByTheEmulatorReadsCompletely)
     EXPECT_EQ(users[2].nearbyVersion, 12);
 }
 
-TEST_F(EmulatorConformanceTest, AccountAndPreviewReadAsTheEmulatorWroteThem)
+TEST_P(EmulatorConformanceTest, AccountAndPreviewReadAsTheEmulatorWroteThem)
 {
     ASSERT_TRUE(Manager().SetShareAccountPermission(3));
     const ShareAccountInfo account = Manager().GetAccountInfo();
@@ -111,7 +148,7 @@ TEST_F(EmulatorConformanceTest, AccountAndPreviewReadAsTheEmulatorWroteThem)
     EXPECT_EQ(preview.back(), '\n');
 }
 
-TEST_F(EmulatorConformanceTest, SendFileRequestDecodesWithItsRecordsAndPackageName)
+TEST_P(EmulatorConformanceTest, SendFileRequestDecodesWithItsRecordsAndPackageName)
 {
     ASSERT_TRUE(Manager().PrepareSend(KnownDevice()));
     SendBean sendBean;
@@ -136,6 +173,11 @@ TEST_F(EmulatorConformanceTest, SendFileRequestDecodesWithItsRecordsAndPackageNa
     };
     EXPECT_EQ(tail, expected);
 }
+
+INSTANTIATE_TEST_SUITE_P(Worlds, EmulatorConformanceTest, testing::Values(World::IN_PROCESS, World::PROCESSES),
+                         [](const testing::TestParamInfo<World>& info) {
+                             return info.param == World::IN_PROCESS ? "InProcess" : "AcrossProcesses";
+                         });
 
 } // namespace
 } // namespace Zelkon

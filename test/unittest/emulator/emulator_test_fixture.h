@@ -31,10 +31,16 @@ protected:
     {
         SamgrHostControl::Reset();
         ShareEmulator::Install();
+        ReachServices(LOAD_TIMEOUT_SECONDS);
+    }
+
+    // Loads the share service and finds the share manager service, which is started if it is not running.
+    void ReachServices(int32_t loadTimeoutSeconds)
+    {
         sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
         ASSERT_NE(manager, nullptr);
-        shareService_ = manager->LoadSystemAbility(EMULATED_SHARE_SERVICE_ID, LOAD_TIMEOUT_SECONDS);
-        shareManager_ = manager->CheckSystemAbility(EMULATED_SHARE_MANAGER_ID);
+        shareService_ = manager->LoadSystemAbility(EMULATED_SHARE_SERVICE_ID, loadTimeoutSeconds);
+        shareManager_ = manager->GetSystemAbility(EMULATED_SHARE_MANAGER_ID);
         ASSERT_NE(shareService_, nullptr);
         ASSERT_NE(shareManager_, nullptr);
     }

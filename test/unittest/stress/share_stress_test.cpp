@@ -3,13 +3,15 @@
  * both clients while another thread kills and restarts both services a few hundred times and registers, replaces
  * and releases the died callbacks. Every call must give the fresh service's answer or the neutral one, nothing may
  * hang (a watchdog aborts), and each died callback must run once per death of the object its client was connected
- * to.
+ * to. In this process the services die together; in processes of their own (SIGKILLed by their manager, a child
+ * of this process) they die in turns, and no descriptor or process may be left once the manager has stopped.
  */
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -19,8 +21,12 @@
 
 #include <gtest/gtest.h>
 
+#include "ipc_host_transport.h"
 #include "ipc_threads.h"
+#include "iservice_registry.h"
+#include "process_table.h"
 #include "samgr_host_control.h"
+#include "services_in_processes.h"
 #include "share_client.h"
 #include "share_emulator.h"
 #include "share_manager_client.h"
@@ -152,22 +158,23 @@ public:
         Manager().RegisterDiedCallback(step == CLEAR ? nullptr : manager);
         registered_ = NONE;
         if (step != CLEAR && step != RELEASE) {
-            kept_.push_back({share, manager, 0});
+            kept_.push_back({share, manager, 0, 0});
             registered_ = static_cast<int>(kept_.size()) - 1;
         }
     }
-    // Both services died once while both clients were connected to them.
-    void Died()
+    // The services died once each, as said, while both clients were connected to them.
+    void Died(bool share, bool manager)
     {
         if (registered_ != NONE) {
-            ++kept_[registered_].expectedCalls;
+            kept_[registered_].shareDeaths += share ? 1 : 0;
+            kept_[registered_].managerDeaths += manager ? 1 : 0;
         }
     }
     void Expect() const
     {
         for (size_t i = 0; i < kept_.size(); ++i) {
-            EXPECT_EQ(kept_[i].share->calls.load(), kept_[i].expectedCalls) << "share died callback " << i;
-            EXPECT_EQ(kept_[i].manager->calls.load(), kept_[i].expectedCalls) << "manager died callback " << i;
+            EXPECT_EQ(kept_[i].share->calls.load(), kept_[i].shareDeaths) << "share died callback " << i;
+            EXPECT_EQ(kept_[i].manager->calls.load(), kept_[i].managerDeaths) << "manager died callback " << i;
         }
     }
 
@@ -175,7 +182,8 @@ private:
     struct Kept {
         std::shared_ptr<CountingShareDiedCallback> share;
         std::shared_ptr<CountingManagerDiedCallback> manager;
-        int expectedCalls;
+        int shareDeaths;
+        int managerDeaths;
     };
     static constexpr int CYCLE = 5;
     static constexpr int CLEAR = 3;
@@ -199,17 +207,55 @@ bool ConnectBoth()
     return share && manager;
 }
 
-TEST(ShareStressTest, CallsSurviveServiceDeathsAndEachDeathIsReportedOnce)
+enum class World { IN_PROCESS, PROCESSES };
+
+size_t OpenDescriptors()
 {
+    return static_cast<size_t>(
+        std::distance(std::filesystem::directory_iterator("/proc/self/fd"), std::filesystem::directory_iterator()));
+}
+
+// The share manager service is not loaded on demand: it is restarted as its world does.
+void RestartShareManager(World world)
+{
+    if (world == World::IN_PROCESS) {
+        ShareEmulator::Install();
+        return;
+    }
+    sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
+    EXPECT_TRUE(manager != nullptr && manager->GetSystemAbility(EMULATED_SHARE_MANAGER_ID) != nullptr);
+}
+
+class ShareStressTest : public testing::TestWithParam<World> {};
+
+TEST_P(ShareStressTest, CallsSurviveServiceDeathsAndEachDeathIsReportedOnce)
+{
+    const World world = GetParam();
     SamgrHostControl::Reset();
-    ShareEmulator::Install();
+    std::unique_ptr<ServicesInProcesses> processes;
+    if (world == World::PROCESSES) {
+        // A first use of the transport opens what it keeps for the life of the process (its own address).
+        processes = std::make_unique<ServicesInProcesses>();
+        processes->Enter();
+        RestartShareManager(world);
+        processes.reset();
+    }
+    const size_t descriptorsBefore = OpenDescriptors();
+    if (world == World::PROCESSES) {
+        processes = std::make_unique<ServicesInProcesses>();
+        ASSERT_TRUE(processes->Started());
+        processes->Enter();
+        ASSERT_TRUE(SamgrHostControl::IsAcrossProcesses());
+    }
+    RestartShareManager(world);
     Watchdog watchdog;
     DiedCallbacks callbacks;
     std::atomic<int> wrong{0};
+    std::atomic<bool> killing{true};
     std::vector<std::thread> workers;
     for (int worker = 0; worker < WORKERS; ++worker) {
-        workers.emplace_back([worker, &wrong] {
-            for (int i = 0; i < CALLS_PER_WORKER; ++i) {
+        workers.emplace_back([worker, &wrong, &killing] {
+            for (int i = 0; i < CALLS_PER_WORKER || killing; ++i) {
                 const Call& call = CALLS[(worker + i) % CALLS.size()];
                 if (!call.answered()) {
                     ADD_FAILURE() << call.name << " gave neither the service's answer nor the neutral result";
@@ -219,30 +265,61 @@ TEST(ShareStressTest, CallsSurviveServiceDeathsAndEachDeathIsReportedOnce)
         });
     }
     int unreached = 0;
+    int missedKills = 0;
     for (int round = 0; round < RESTARTS; ++round) {
         callbacks.Change(round);
         if (!ConnectBoth()) {
             ++unreached;
             continue;
         }
-        ShareEmulator::KillShareService();
-        ShareEmulator::KillShareManagerService();
-        callbacks.Died();
-        // A fresh share manager; the share service comes back at the next load.
-        ShareEmulator::Install();
+        // Across processes the services die in turns, each death a SIGKILL of the process.
+        const bool share = world == World::IN_PROCESS || round % 2 == 0;
+        const bool manager = world == World::IN_PROCESS || round % 2 == 1;
+        missedKills += share && !ShareEmulator::KillShareService() ? 1 : 0;
+        missedKills += manager && !ShareEmulator::KillShareManagerService() ? 1 : 0;
+        callbacks.Died(share, manager);
+        // The share service comes back at the next load.
+        if (manager) {
+            RestartShareManager(world);
+        }
         // The death notices run on IPC threads; they are all delivered before the callbacks change again.
         IpcThreads::Drain();
     }
+    killing = false;
     for (std::thread& worker : workers) {
         worker.join();
     }
     IpcThreads::Drain();
     EXPECT_EQ(wrong.load(), 0);
     EXPECT_EQ(unreached, 0) << "rounds in which a service could not be reached";
+    EXPECT_EQ(missedKills, 0) << "kills of a service that was not running";
     callbacks.Expect();
-    ShareEmulator::Uninstall();
-    SamgrHostControl::Reset();
+    if (world == World::IN_PROCESS) {
+        ShareEmulator::Uninstall();
+        SamgrHostControl::Reset();
+        return;
+    }
+    // Every killed process was reaped by the manager: what is left are the two running services.
+    ASSERT_TRUE(ConnectBoth());
+    const pid_t samgr = processes->SamgrPid();
+    std::vector<pid_t> services = ChildrenOf(samgr);
+    EXPECT_EQ(services.size(), 2u);
+    processes.reset();
+    EXPECT_FALSE(SamgrHostControl::IsAcrossProcesses());
+    EXPECT_TRUE(Gone(samgr));
+    EXPECT_TRUE(Eventually([&] { return ChildrenOf(getpid()).empty(); })) << "a child of the test is left";
+    for (pid_t service : services) {
+        EXPECT_TRUE(Eventually([service] { return Gone(service); })) << "service process " << service << " is left";
+    }
+    EXPECT_EQ(IpcHostTransport::SessionCount(), 0u);
+    EXPECT_TRUE(Eventually([&] { return OpenDescriptors() == descriptorsBefore; }))
+        << OpenDescriptors() << " descriptors open, " << descriptorsBefore << " before";
 }
+
+INSTANTIATE_TEST_SUITE_P(Worlds, ShareStressTest, testing::Values(World::IN_PROCESS, World::PROCESSES),
+                         [](const testing::TestParamInfo<World>& info) {
+                             return info.param == World::IN_PROCESS ? "InProcess" : "AcrossProcesses";
+                         });
 
 } // namespace
 } // namespace Zelkon

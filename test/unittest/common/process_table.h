@@ -1,0 +1,68 @@
+/*
+ * The host's process table as /proc shows it, for tests that check that no process they caused is left.
+ */
+#ifndef PROCESS_TABLE_H
+#define PROCESS_TABLE_H
+
+#include <chrono>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <string>
+#include <sys/types.h>
+#include <thread>
+#include <vector>
+
+namespace OHOS {
+namespace Zelkon {
+
+// The processes whose parent is `parent`, zombies included.
+inline std::vector<pid_t> ChildrenOf(pid_t parent)
+{
+    std::vector<pid_t> children;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc", error)) {
+        const std::string name = entry.path().filename().string();
+        if (name.find_first_not_of("0123456789") != std::string::npos) {
+            continue;
+        }
+        std::ifstream stat(entry.path() / "stat");
+        std::string line;
+        std::getline(stat, line);
+        // pid (comm) state ppid ...: the command may hold spaces and parentheses.
+        const size_t end = line.rfind(')');
+        char state = 0;
+        int ppid = 0;
+        if (end != std::string::npos && sscanf(line.c_str() + end + 1, " %c %d", &state, &ppid) == 2 &&
+            ppid == parent) {
+            children.push_back(static_cast<pid_t>(std::stoi(name)));
+        }
+    }
+    return children;
+}
+
+// The process has ended: reaped, or a zombie that its parent (init, for an orphan) has yet to reap.
+inline bool Gone(pid_t pid)
+{
+    std::ifstream stat("/proc/" + std::to_string(pid) + "/stat");
+    std::string line;
+    std::getline(stat, line);
+    const size_t end = line.rfind(')');
+    return end == std::string::npos || line.compare(end, 3, ") Z") == 0;
+}
+
+// Polls `done` for up to two seconds.
+inline bool Eventually(const std::function<bool()>& done)
+{
+    constexpr int POLLS = 200;
+    for (int poll = 0; poll < POLLS && !done(); ++poll) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return done();
+}
+
+} // namespace Zelkon
+} // namespace OHOS
+
+#endif // PROCESS_TABLE_H
