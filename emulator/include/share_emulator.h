@@ -2,6 +2,10 @@
  * Stand-ins for the two share services on a host: the share service (65569) is loaded on demand by the host system
  * ability manager, as on a device; the share manager service (65570) is simply running. Both decode every request
  * independently of the library and keep a little coherent state, seeded from a world.
+ *
+ * Install puts them in this process's world. In a process that uses the system ability manager of another process
+ * (emulator_processes.h), the services are processes of their own started there, and the kills, faults, trace and
+ * dump below act on those processes.
  */
 #ifndef SHARE_EMULATOR_H
 #define SHARE_EMULATOR_H
