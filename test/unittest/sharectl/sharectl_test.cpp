@@ -5,11 +5,14 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdlib>
+#include <fstream>
 #include <ostream>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <thread>
@@ -17,7 +20,14 @@
 
 #include <gtest/gtest.h>
 
+#include "child_process.h"
+#include "process_table.h"
+
 namespace {
+
+using OHOS::Zelkon::ChildrenOf;
+using OHOS::Zelkon::Eventually;
+using OHOS::Zelkon::Gone;
 
 struct Outcome {
     int status;
@@ -140,6 +150,13 @@ const std::vector<Case> CASES = {
     {"UnknownLogLevel", "--log-level loud", "", 2, "--log-level"},
     {"UnknownCommand", "bogus", "", 2, "bogus"},
     {"Help", "--help", "", 0, "die-in:CODE"},
+    {"ProcessesSession", "--processes", "", 0, "18 of 18 steps passed"},
+    {"ProcessesCall", "--processes call RemovePermanentDeviceById id=2", "", 0,
+     "RemovePermanentDeviceById -> 1 (accepted)"},
+    {"ProcessesFaultInTheServiceProcess", "--processes --fault die-in:26 call GetPermanentDeviceList", "", 0,
+     "SendRequest is failed, error code: 32"},
+    {"ProcessesFaultInTheManager", "--processes --fault load-fail:2 call Publish", "", 0,
+     "Publish -> 0 (refused, or the call failed"},
 };
 
 class SharectlTest : public testing::TestWithParam<Case> {};
@@ -170,6 +187,73 @@ TEST(SharectlCatalogTest, EveryListedOperationCanBeCalledWithItsDefaults)
         ++operations;
     }
     EXPECT_EQ(operations, 26 + 36);
+}
+
+// The line of `output` that starts with `prefix`, empty if none does.
+std::string LineStarting(const std::string& output, const std::string& prefix)
+{
+    std::istringstream lines(output);
+    std::string line;
+    while (std::getline(lines, line)) {
+        if (line.rfind(prefix, 0) == 0) {
+            return line;
+        }
+    }
+    return "";
+}
+
+// The pid that ends `line` as ", process N" or ", process N, ...", or -1.
+pid_t ProcessNamedIn(const std::string& line)
+{
+    std::smatch match;
+    return std::regex_search(line, match, std::regex(", process ([0-9]+)")) ? std::stoi(match[1]) : -1;
+}
+
+TEST(SharectlProcessesTest, TheReloadedShareServiceIsAFreshProcessAndNoneIsLeft)
+{
+    const Outcome run = RunSharectl("--processes");
+    ASSERT_EQ(run.status, 0) << run.output;
+
+    const pid_t killed = ProcessNamedIn(LineStarting(run.output, "[ ok ] kill the share service:"));
+    const pid_t reloaded = ProcessNamedIn(LineStarting(run.output, "[ ok ] reload on the next call:"));
+    EXPECT_GT(killed, 0) << run.output;
+    EXPECT_GT(reloaded, 0) << run.output;
+    EXPECT_NE(killed, reloaded);
+    EXPECT_NE(killed, getpid());
+    EXPECT_TRUE(Eventually([&] { return Gone(killed) && Gone(reloaded); }));
+}
+
+// `sharectl serve` keeps the services between the invocations that join it, and takes them with it when it stops.
+TEST(SharectlProcessesTest, ServeKeepsItsStateForTheInvocationsThatJoinIt)
+{
+    const std::string socket = "/tmp/sharectl-serve-test-" + std::to_string(getpid()) + ".sock";
+    OHOS::ChildProcess serve({SHARECTL_PATH, "--socket", socket, "serve"}, OHOS::ChildProcess::Options{});
+    ASSERT_TRUE(serve.Started());
+    // It prints no ready line: it serves once its socket exists.
+    for (int polls = 0; access(socket.c_str(), F_OK) != 0 && polls < 1000; ++polls) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    ASSERT_EQ(access(socket.c_str(), F_OK), 0) << "sharectl serve made no socket";
+    const std::string join = "--socket " + socket + " --processes ";
+
+    const Outcome removed = RunSharectl(join + "remove-device 2");
+    EXPECT_EQ(removed.status, 0) << removed.output;
+    const Outcome dump = RunSharectl(join + "dump");
+    EXPECT_EQ(dump.status, 0) << dump.output;
+    EXPECT_NE(dump.output.find(R"("deviceName": "Kitchen tablet")"), std::string::npos) << dump.output;
+    EXPECT_EQ(dump.output.find(R"("deviceName": "Office laptop")"), std::string::npos) << "device 2 is back";
+    const Outcome world = RunSharectl(join + "--world /dev/stdin users", CHANGED_WORLD);
+    EXPECT_EQ(world.status, 2);
+    EXPECT_NE(world.output.find("run their own world already"), std::string::npos) << world.output;
+
+    const std::vector<pid_t> services = ChildrenOf(serve.Pid());
+    EXPECT_EQ(services.size(), 2u) << "the share service and the share manager service";
+    serve.Stop();
+    for (pid_t service : services) {
+        EXPECT_TRUE(Eventually([service] { return Gone(service); })) << "service process " << service << " is left";
+    }
+    EXPECT_NE(access(socket.c_str(), F_OK), 0) << "the socket file is left";
+    unlink(socket.c_str());
 }
 
 std::vector<std::string> FilesIn(const std::string& directory)
@@ -217,6 +301,55 @@ TEST_P(SharectlSignalTest, LeavesNoTemporaryFileAndNoProcess)
 
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == GetParam()) << "status " << status;
     EXPECT_EQ(FilesIn(directory), std::vector<std::string>());
+    rmdir(directory);
+}
+
+// The traced session in processes writes more than a pipe that nobody reads holds: the signal comes while sharectl
+// waits to write, its services running.
+TEST_P(SharectlSignalTest, InASessionInProcessesLeavesNoTemporaryFileAndNoProcess)
+{
+    char directory[] = "/tmp/sharectl-signal-XXXXXX";
+    ASSERT_NE(mkdtemp(directory), nullptr);
+    int out[2];
+    ASSERT_EQ(pipe2(out, O_CLOEXEC), 0);
+    ASSERT_GT(fcntl(out[1], F_SETPIPE_SZ, 4096), 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        dup2(out[1], STDOUT_FILENO);
+        dup2(out[1], STDERR_FILENO);
+        setenv("TMPDIR", directory, 1);
+        execl(SHARECTL_PATH, "sharectl", "--processes", "--trace", static_cast<char*>(nullptr));
+        _exit(127);
+    }
+    close(out[1]);
+    // Its main thread sleeps in write(2), and stays there.
+    const auto blocked = [child] {
+        std::ifstream syscall("/proc/" + std::to_string(child) + "/syscall");
+        long number = -1;
+        return static_cast<bool>(syscall >> number) && number == SYS_write;
+    };
+    for (int polls = 0; !blocked() && polls < 1000; ++polls) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    ASSERT_TRUE(blocked()) << "sharectl does not wait to write";
+    std::vector<pid_t> started;
+    for (pid_t serve : ChildrenOf(child)) {
+        started.push_back(serve);
+        const std::vector<pid_t> services = ChildrenOf(serve);
+        started.insert(started.end(), services.begin(), services.end());
+    }
+    EXPECT_GE(started.size(), 2u) << "the manager and the share manager service";
+
+    ASSERT_EQ(kill(child, GetParam()), 0);
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    close(out[0]);
+
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == GetParam()) << "status " << status;
+    EXPECT_EQ(FilesIn(directory), std::vector<std::string>());
+    for (pid_t process : started) {
+        EXPECT_TRUE(Eventually([process] { return Gone(process); })) << "process " << process << " is left";
+    }
     rmdir(directory);
 }
 
