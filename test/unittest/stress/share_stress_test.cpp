@@ -238,7 +238,9 @@ TEST_P(ShareStressTest, CallsSurviveServiceDeathsAndEachDeathIsReportedOnce)
         processes = std::make_unique<ServicesInProcesses>();
         processes->Enter();
         RestartShareManager(world);
+        const pid_t samgr = processes->SamgrPid();
         processes.reset();
+        ASSERT_TRUE(IpcHostTransport::WaitForPeerGone(samgr, std::chrono::seconds(5)));
     }
     const size_t descriptorsBefore = OpenDescriptors();
     if (world == World::PROCESSES) {
@@ -311,6 +313,7 @@ TEST_P(ShareStressTest, CallsSurviveServiceDeathsAndEachDeathIsReportedOnce)
     for (pid_t service : services) {
         EXPECT_TRUE(Eventually([service] { return Gone(service); })) << "service process " << service << " is left";
     }
+    EXPECT_TRUE(IpcHostTransport::WaitForPeerGone(samgr, std::chrono::seconds(5)));
     EXPECT_EQ(IpcHostTransport::SessionCount(), 0u);
     EXPECT_TRUE(Eventually([&] { return OpenDescriptors() == descriptorsBefore; }))
         << OpenDescriptors() << " descriptors open, " << descriptorsBefore << " before";
