@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "emulated_world.h"
 #include "emulator_fault.h"
 
 namespace OHOS {
@@ -23,14 +24,16 @@ public:
         std::string socketPath;
         // The `share_emulator_service` executable.
         std::string serviceExecutable;
-        // A world file of the `sharectl world` schema, or empty for the built-in world.
-        std::string worldFile;
+        EmulatedWorld world = EmulatedWorld::BuiltIn();
         // Load faults are scripted in the manager; the others are armed in the first share service started.
         std::vector<EmulatorFault> faults;
     };
 
     // Where `sharectl serve` serves unless told otherwise: one socket per user.
     static std::string DefaultSocketPath();
+    // A path at which the processes this one starts read the world as a file, for as long as this process lives (a
+    // memory file of this process): the world is read once, whatever path or stream it came from.
+    static std::string WorldFileOf(const EmulatedWorld& world);
     // Blocks SIGINT and SIGTERM in the calling thread (call it before any thread starts, so that every thread
     // inherits the mask), serves the manager and starts the share manager service. False (logged) if the socket
     // cannot be served or the share manager service does not start.

@@ -37,6 +37,7 @@ int main(int argc, char* argv[])
     CLI::App app{"The emulated share services in processes of their own."};
     app.require_subcommand(1);
     int32_t systemAbilityId = 0;
+    std::string worldFile;
     EmulatorProcesses::Options options;
     std::vector<std::string> faults;
     CLI::App* ability = app.add_subcommand("ability", "One service, as the system ability manager starts it.");
@@ -46,7 +47,7 @@ int main(int argc, char* argv[])
     CLI::App* serve = app.add_subcommand("serve", "The system ability manager with both services.");
     serve->add_option("--socket", options.socketPath, "The manager's socket")->required();
     for (CLI::App* command : {ability, serve}) {
-        command->add_option("--world", options.worldFile, "A world file of the `sharectl world` schema");
+        command->add_option("--world", worldFile, "A world file of the `sharectl world` schema");
         command->add_option("--fault", faults, "A fault to arm (repeatable)");
     }
     options.serviceExecutable = OHOS::ChildProcess::OwnExecutable();
@@ -57,8 +58,15 @@ int main(int argc, char* argv[])
         return app.exit(error);
     }
     if (ability->parsed()) {
-        std::_Exit(EmulatorProcesses::RunService(systemAbilityId, options.worldFile, options.faults));
+        std::_Exit(EmulatorProcesses::RunService(systemAbilityId, worldFile, options.faults));
     }
+    std::string error;
+    std::optional<EmulatedWorld> world =
+        worldFile.empty() ? EmulatedWorld::BuiltIn() : EmulatedWorld::FromFile(worldFile, error);
+    if (!world) {
+        return app.exit(CLI::ValidationError("--world", error));
+    }
+    options.world = *world;
     if (!EmulatorProcesses::Serve(options) || !OHOS::ChildProcess::SayReady()) {
         return EXIT_FAILURE;
     }

@@ -1,9 +1,11 @@
 #include "emulator_processes.h"
 
+#include <cerrno>
 #include <csignal>
 #include <memory>
 #include <mutex>
 #include <pthread.h>
+#include <sys/mman.h>
 #include <thread>
 #include <unistd.h>
 
@@ -45,19 +47,27 @@ sigset_t StopSignals()
     return signals;
 }
 
-std::vector<std::string> ServiceCommandLine(const EmulatorProcesses::Options& options, int32_t systemAbilityId)
+std::vector<std::string> ServiceCommandLine(const std::string& executable, const std::string& worldFile,
+                                            int32_t systemAbilityId)
 {
-    std::vector<std::string> line = {options.serviceExecutable, "ability", std::to_string(systemAbilityId)};
-    if (!options.worldFile.empty()) {
-        line.insert(line.end(), {"--world", options.worldFile});
-    }
-    return line;
+    return {executable, "ability", std::to_string(systemAbilityId), "--world", worldFile};
 }
 } // namespace
 
 std::string EmulatorProcesses::DefaultSocketPath()
 {
     return "/tmp/share-emulator-" + std::to_string(getuid()) + ".sock";
+}
+
+std::string EmulatorProcesses::WorldFileOf(const EmulatedWorld& world)
+{
+    const int fd = memfd_create("emulated-world", MFD_CLOEXEC);
+    const std::string text = world.ToJson();
+    if (fd < 0 || write(fd, text.data(), text.size()) != static_cast<ssize_t>(text.size())) {
+        EMULATOR_LOGE("cannot hold the world for other processes, errno %{public}d", errno);
+        return "";
+    }
+    return "/proc/" + std::to_string(getpid()) + "/fd/" + std::to_string(fd);
 }
 
 bool EmulatorProcesses::Serve(const Options& options)
@@ -76,15 +86,18 @@ bool EmulatorProcesses::Serve(const Options& options)
         }
     }
     auto pending = std::make_shared<PendingFaults>(std::move(serviceFaults));
-    SamgrHostControl::RegisterProcess(EMULATED_SHARE_SERVICE_ID, [options, pending] {
-        std::vector<std::string> line = ServiceCommandLine(options, EMULATED_SHARE_SERVICE_ID);
+    const std::string worldFile = WorldFileOf(options.world);
+    const std::string& executable = options.serviceExecutable;
+    SamgrHostControl::RegisterProcess(EMULATED_SHARE_SERVICE_ID, [executable, worldFile, pending] {
+        std::vector<std::string> line = ServiceCommandLine(executable, worldFile, EMULATED_SHARE_SERVICE_ID);
         for (const EmulatorFault& fault : pending->Take()) {
             line.insert(line.end(), {"--fault", fault.Text()});
         }
         return line;
     });
-    SamgrHostControl::RegisterProcess(EMULATED_SHARE_MANAGER_ID,
-                                      [options] { return ServiceCommandLine(options, EMULATED_SHARE_MANAGER_ID); });
+    SamgrHostControl::RegisterProcess(EMULATED_SHARE_MANAGER_ID, [executable, worldFile] {
+        return ServiceCommandLine(executable, worldFile, EMULATED_SHARE_MANAGER_ID);
+    });
     sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
     if (manager->GetSystemAbility(EMULATED_SHARE_MANAGER_ID) == nullptr) {
         EMULATOR_LOGE("the share manager service %{public}d did not start", EMULATED_SHARE_MANAGER_ID);

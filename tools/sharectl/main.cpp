@@ -89,10 +89,9 @@ int Run(const Invocation& invocation, Session& session, Output& out)
 }
 
 // sharectl serve: the manager and both services until SIGINT or SIGTERM.
-int Serve(const CommandLine& line)
+int Serve(const CommandLine& line, const EmulatedWorld& world)
 {
-    EmulatorProcesses::Options options{line.socketPath, ProcessesWorld::ServiceExecutable(), line.worldFile,
-                                       line.faults};
+    EmulatorProcesses::Options options{line.socketPath, ProcessesWorld::ServiceExecutable(), world, line.faults};
     if (!EmulatorProcesses::Serve(options)) {
         std::cerr << "sharectl: cannot serve at " << line.socketPath << std::endl;
         return EXIT_FAILED;
@@ -139,12 +138,12 @@ int main(int argc, char* argv[])
     }
     OHOS::HiviewDFX::HiLogSetThreshold(line->logLevel);
     if (line->command == SERVE_COMMAND) {
-        return Serve(*line);
+        return Serve(*line, invocation->world);
     }
     std::unique_ptr<ProcessesWorld> processes;
     if (line->processes) {
         try {
-            processes = std::make_unique<ProcessesWorld>(*line);
+            processes = std::make_unique<ProcessesWorld>(*line, invocation->world);
         } catch (const UsageError& error) {
             std::cerr << "sharectl: " << error.what() << std::endl;
             return EXIT_USAGE;

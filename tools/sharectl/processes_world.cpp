@@ -22,7 +22,7 @@ bool Served(const std::string& socketPath)
 }
 } // namespace
 
-ProcessesWorld::ProcessesWorld(const CommandLine& line) : socketPath_(line.socketPath)
+ProcessesWorld::ProcessesWorld(const CommandLine& line, const EmulatedWorld& world) : socketPath_(line.socketPath)
 {
     if (Served(socketPath_)) {
         if (!line.worldFile.empty()) {
@@ -31,8 +31,9 @@ ProcessesWorld::ProcessesWorld(const CommandLine& line) : socketPath_(line.socke
     } else {
         socketPath_ = "/tmp/sharectl-" + std::to_string(getpid()) + ".sock";
         std::vector<std::string> command = {ServiceExecutable(), "serve", "--socket", socketPath_};
+        // Read once here: the path may mean nothing to another process (standard input, say).
         if (!line.worldFile.empty()) {
-            command.insert(command.end(), {"--world", line.worldFile});
+            command.insert(command.end(), {"--world", EmulatorProcesses::WorldFileOf(world)});
         }
         for (const EmulatorFault& fault : line.faults) {
             command.insert(command.end(), {"--fault", fault.Text()});

@@ -12,6 +12,7 @@
 
 #include "child_process.h"
 #include "command_line.h"
+#include "emulated_world.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -20,7 +21,7 @@ class ProcessesWorld {
 public:
     // Joins or starts the manager; throws UsageError when a joined manager cannot take the world or the faults
     // asked for, and std::runtime_error when the manager cannot be started.
-    explicit ProcessesWorld(const CommandLine& line);
+    ProcessesWorld(const CommandLine& line, const EmulatedWorld& world);
     bool Joined() const { return own_ == nullptr; }
     const std::string& SocketPath() const { return socketPath_; }
 
