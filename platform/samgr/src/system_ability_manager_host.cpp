@@ -75,12 +75,25 @@ std::vector<std::u16string> SystemAbilityManagerHost::ListSystemAbilities(unsign
     return names;
 }
 
+sptr<IRemoteObject> SystemAbilityManagerHost::Running(int32_t systemAbilityId)
+{
+    auto it = abilities_.find(systemAbilityId);
+    if (it == abilities_.end()) {
+        return nullptr;
+    }
+    // A process that ended a moment ago may not have been forgotten yet: its object is dead already.
+    if (it->second->IsObjectDead()) {
+        abilities_.erase(it);
+        return nullptr;
+    }
+    return it->second;
+}
+
 sptr<IRemoteObject> SystemAbilityManagerHost::Lookup(int32_t systemAbilityId)
 {
     std::lock_guard<std::mutex> lock(mutex_);
     ++lookups_[systemAbilityId];
-    auto it = abilities_.find(systemAbilityId);
-    return it != abilities_.end() ? it->second : nullptr;
+    return Running(systemAbilityId);
 }
 
 void SystemAbilityManagerHost::Forget(int32_t systemAbilityId, const wptr<IRemoteObject>& object)
@@ -176,9 +189,8 @@ sptr<IRemoteObject> SystemAbilityManagerHost::FindOrStart(int32_t systemAbilityI
     SamgrHostControl::Loader loader;
     {
         std::lock_guard<std::mutex> lock(mutex_);
-        auto running = abilities_.find(systemAbilityId);
-        if (running != abilities_.end()) {
-            return running->second;
+        if (sptr<IRemoteObject> running = Running(systemAbilityId); running != nullptr) {
+            return running;
         }
         auto it = loaders_.find(systemAbilityId);
         if (it == loaders_.end()) {

@@ -62,6 +62,8 @@ public:
 private:
     SystemAbilityManagerHost() = default;
 
+    // The ability if it is registered and its object is alive; called with mutex_ held.
+    sptr<IRemoteObject> Running(int32_t systemAbilityId);
     sptr<IRemoteObject> Lookup(int32_t systemAbilityId);
     // The running ability, or the one its loader starts now; null if neither.
     sptr<IRemoteObject> FindOrStart(int32_t systemAbilityId);
