@@ -309,26 +309,38 @@ sptr<IRemoteObject> SystemAbilityManagerHost::StartProcess(int32_t systemAbility
                                                            const std::vector<std::string>& commandLine)
 {
     constexpr auto STARTUP_TIMEOUT = std::chrono::seconds(10);
-    ChildProcess::Options options;
+    // How often the wait looks whether the process ended before it added the ability.
+    constexpr auto END_CHECK_INTERVAL = std::chrono::milliseconds(50);
+    // A process replaced or given up is stopped once the lock is released: stopping it may take a while.
+    std::vector<std::unique_ptr<ChildProcess>> dropped;
     std::unique_lock<std::mutex> lock(mutex_);
+    ChildProcess::Options options;
     options.environment[SamgrHostControl::SOCKET_ENVIRONMENT] = socketPath_;
     auto child = std::make_unique<ChildProcess>(commandLine, options);
     if (!child->Started()) {
         return nullptr;
     }
     const pid_t pid = child->Pid();
-    processes_[systemAbilityId] = std::move(child);
+    dropped.push_back(std::exchange(processes_[systemAbilityId], std::move(child)));
     // The process adds its ability through this manager, on a thread that serves it.
-    const bool added = added_.wait_for(lock, STARTUP_TIMEOUT, [this, systemAbilityId, pid] {
+    const auto added = [this, systemAbilityId, pid] {
         auto it = abilities_.find(systemAbilityId);
         return it != abilities_.end() && IpcHostTransport::PeerPid(it->second) == pid;
-    });
-    if (!added) {
-        SAMGR_HOST_LOGE("process %{public}d did not add system ability %{public}d", pid, systemAbilityId);
-        processes_.erase(systemAbilityId);
-        return nullptr;
+    };
+    const auto deadline = std::chrono::steady_clock::now() + STARTUP_TIMEOUT;
+    while (!added_.wait_for(lock, END_CHECK_INTERVAL, added)) {
+        auto process = processes_.find(systemAbilityId);
+        const bool ours = process != processes_.end() && process->second->Pid() == pid;
+        if (!ours || process->second->Ended() || std::chrono::steady_clock::now() >= deadline) {
+            SAMGR_HOST_LOGE("process %{public}d did not add system ability %{public}d", pid, systemAbilityId);
+            if (ours) {
+                dropped.push_back(std::move(process->second));
+                processes_.erase(process);
+            }
+            return nullptr;
+        }
     }
-    return abilities_[systemAbilityId];
+    return abilities_.find(systemAbilityId)->second;
 }
 
 void SystemAbilityManagerHost::RegisterLoader(int32_t systemAbilityId, SamgrHostControl::Loader loader)
