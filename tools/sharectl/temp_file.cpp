@@ -7,6 +7,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <limits.h>
+#include <random>
 #include <unistd.h>
 
 namespace OHOS {
@@ -38,6 +39,20 @@ void RemoveOnSignals(const std::string& path)
     g_pending = true;
 }
 
+// Random enough that another file of the name is not there: it is named to the signal handler before it exists.
+std::string RandomSuffix()
+{
+    constexpr char LETTERS[] = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789";
+    constexpr size_t LENGTH = 12;
+    std::random_device random;
+    std::uniform_int_distribution<size_t> pick(0, sizeof(LETTERS) - 2);
+    std::string suffix;
+    for (size_t i = 0; i < LENGTH; ++i) {
+        suffix.push_back(LETTERS[pick(random)]);
+    }
+    return suffix;
+}
+
 std::string TempDirectory()
 {
     const char* directory = std::getenv("TMPDIR");
@@ -47,18 +62,27 @@ std::string TempDirectory()
 
 TempFile::TempFile(const std::string& stem)
 {
-    std::string pattern = TempDirectory() + "/" + stem + "-XXXXXX";
-    if (pattern.size() >= PATH_MAX) {
-        error_ = "the TMPDIR path is too long";
-        return;
+    constexpr int ATTEMPTS = 16;
+    constexpr mode_t OWNER_ONLY = 0600;
+    for (int attempt = 0; attempt < ATTEMPTS && fd_ < 0; ++attempt) {
+        const std::string path = TempDirectory() + "/" + stem + "-" + RandomSuffix();
+        if (path.size() >= PATH_MAX) {
+            error_ = "the TMPDIR path is too long";
+            return;
+        }
+        // Named to the handler first: a signal that comes while the file is made removes it too.
+        RemoveOnSignals(path);
+        fd_ = open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, OWNER_ONLY);
+        if (fd_ >= 0) {
+            path_ = path;
+            return;
+        }
+        g_pending = false;
+        error_ = "cannot create " + path + ": " + std::strerror(errno);
+        if (errno != EEXIST) {
+            return;
+        }
     }
-    fd_ = mkostemp(pattern.data(), O_CLOEXEC);
-    if (fd_ < 0) {
-        error_ = "cannot create " + pattern + ": " + std::strerror(errno);
-        return;
-    }
-    path_ = pattern;
-    RemoveOnSignals(path_);
 }
 
 TempFile::~TempFile()
