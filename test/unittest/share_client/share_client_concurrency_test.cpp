@@ -15,13 +15,17 @@ namespace {
 
 TEST_F(ShareServiceTest, CallersSurviveTheServiceDyingAndComingBack)
 {
-    // Every load starts a new instance of the service; the test kills the one that runs.
-    std::mutex runningMutex;
-    sptr<ScriptedStub> running;
-    SamgrHostControl::RegisterLoader(SHARE_SERVICE_SA_ID, [&] {
-        std::lock_guard<std::mutex> lock(runningMutex);
-        running = new ScriptedStub(ZelkonService::GetDescriptor());
-        return sptr<IRemoteObject>(running);
+    // Every load starts a new instance of the service; the test kills the one that runs. The loader owns what it
+    // shares with the test: a load asked for by the last calls may run after the test body has returned.
+    struct Instances {
+        std::mutex mutex;
+        sptr<ScriptedStub> running;
+    };
+    auto instances = std::make_shared<Instances>();
+    SamgrHostControl::RegisterLoader(SHARE_SERVICE_SA_ID, [instances] {
+        std::lock_guard<std::mutex> lock(instances->mutex);
+        instances->running = new ScriptedStub(ZelkonService::GetDescriptor());
+        return sptr<IRemoteObject>(instances->running);
     });
     auto callback = std::make_shared<CountingDiedCallback>();
     Client().RegisterDiedCallback(callback);
@@ -54,10 +58,10 @@ TEST_F(ShareServiceTest, CallersSurviveTheServiceDyingAndComingBack)
         sptr<ScriptedStub> victim;
         while (victim == nullptr && std::chrono::steady_clock::now() < deadline) {
             {
-                std::lock_guard<std::mutex> lock(runningMutex);
-                if (running != nullptr && !running->Codes().empty()) {
-                    victim = running;
-                    running = nullptr;
+                std::lock_guard<std::mutex> lock(instances->mutex);
+                if (instances->running != nullptr && !instances->running->Codes().empty()) {
+                    victim = instances->running;
+                    instances->running = nullptr;
                 }
             }
             std::this_thread::sleep_for(std::chrono::milliseconds(1));
