@@ -152,8 +152,11 @@ void ChildProcess::Reap(int options)
     do {
         reaped = waitpid(pid_, nullptr, options);
     } while (reaped < 0 && errno == EINTR);
+    // A child that is gone needs no lifeline.
     if (reaped == pid_ || (reaped < 0 && errno == ECHILD)) {
         pid_ = -1;
+        close(lifeline_);
+        lifeline_ = -1;
     }
 }
 

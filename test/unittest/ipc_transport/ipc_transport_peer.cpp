@@ -203,12 +203,10 @@ int main(int argc, char* argv[])
     if (rawFd >= 0) {
         std::thread(OHOS::EchoRaw, rawFd).detach();
     }
-    if (write(STDOUT_FILENO, "ready\n", 6) != 6) {
+    if (!OHOS::ChildProcess::SayReady()) {
         return 1;
     }
-    char byte = 0;
-    while (read(STDIN_FILENO, &byte, 1) > 0) {
-    }
+    OHOS::ChildProcess::WaitForStarterGone();
     // Nothing this process holds needs tearing down: it ends as a killed one would.
     _exit(0);
 }

@@ -1,7 +1,7 @@
 /*
  * A peer process for the transport tests and benchmarks: it serves a PeerService as its context object at a
- * socket path of its own and answers the codes below. Started with posix_spawn, killed and reaped by its owner;
- * it also ends by itself when this process ends (its standard input, a pipe that only this process writes, closes).
+ * socket path of its own and answers the codes below. A ChildProcess: killed and reaped by its owner, and it ends by
+ * itself when this process ends.
  */
 #ifndef PEER_PROCESS_H
 #define PEER_PROCESS_H
@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <string>
 #include <sys/types.h>
+
+#include "child_process.h"
 
 namespace OHOS {
 
@@ -39,15 +41,14 @@ public:
     PeerProcess(const PeerProcess&) = delete;
     PeerProcess& operator=(const PeerProcess&) = delete;
 
-    pid_t Pid() const { return pid_; }
+    pid_t Pid() const { return process_.Pid(); }
     const std::string& Path() const { return path_; }
     // SIGKILL, then reaped.
-    void Kill();
+    void Kill() { process_.Kill(); }
 
 private:
     std::string path_;
-    pid_t pid_ = -1;
-    int lifeline_ = -1;
+    ChildProcess process_;
 };
 
 } // namespace OHOS
