@@ -1,4 +1,19 @@
 /*
+ * Copyright (c) 2026 The libshare_client Authors.
+ * Licensed under the Apache License, Version 2.0 (the "License");
+ * you may not use this file except in compliance with the License.
+ * You may obtain a copy of the License at
+ *
+ *     http://www.apache.org/licenses/LICENSE-2.0
+ *
+ * Unless required by applicable law or agreed to in writing, software
+ * distributed under the License is distributed on an "AS IS" BASIS,
+ * WITHOUT WARRANTIES OR CONDITIONS OF ANY KIND, either express or implied.
+ * See the License for the specific language governing permissions and
+ * limitations under the License.
+ */
+
+/*
  * Stand-ins for the two share services on a host: the share service (65569) is loaded on demand by the host system
  * ability manager, as on a device; the share manager service (65570) is simply running. Both decode every request
  * independently of the library and keep a little coherent state, seeded from a world.

@@ -1,4 +1,19 @@
 /*
+ * Copyright (c) 2026 The libshare_client Authors.
+ * Licensed under the Apache License, Version 2.0 (the "License");
+ * you may not use this file except in compliance with the License.
+ * You may obtain a copy of the License at
+ *
+ *     http://www.apache.org/licenses/LICENSE-2.0
+ *
+ * Unless required by applicable law or agreed to in writing, software
+ * distributed under the License is distributed on an "AS IS" BASIS,
+ * WITHOUT WARRANTIES OR CONDITIONS OF ANY KIND, either express or implied.
+ * See the License for the specific language governing permissions and
+ * limitations under the License.
+ */
+
+/*
  * Host: the system ability manager of the emulated device. Every ability lives "in another process": callers
  * get the remote object that stands for it. Scripted by SamgrHostControl. Served to other processes, it starts
  * abilities as processes of their own and forgets an ability when its process ends.

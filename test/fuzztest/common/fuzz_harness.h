@@ -1,4 +1,19 @@
 /*
+ * Copyright (c) 2026 The libshare_client Authors.
+ * Licensed under the Apache License, Version 2.0 (the "License");
+ * you may not use this file except in compliance with the License.
+ * You may obtain a copy of the License at
+ *
+ *     http://www.apache.org/licenses/LICENSE-2.0
+ *
+ * Unless required by applicable law or agreed to in writing, software
+ * distributed under the License is distributed on an "AS IS" BASIS,
+ * WITHOUT WARRANTIES OR CONDITIONS OF ANY KIND, either express or implied.
+ * See the License for the specific language governing permissions and
+ * limitations under the License.
+ */
+
+/*
  * The one harness of the fuzzers. A record fuzzer reads the input as a record and checks that whatever the reader
  * accepted is stable under the record's own writer and reader (a field that the two see differently shows up as a
  * difference in bytes). A reply fuzzer hands the input to a proxy as the reply of one of its operations: the first
