@@ -40,6 +40,10 @@ public:
     bool AddDeathRecipient(const sptr<DeathRecipient>& recipient) override;
     bool RemoveDeathRecipient(const sptr<DeathRecipient>& recipient) override;
     int Dump(int fd, const std::vector<std::u16string>& args) override;
+    HostProxyKind GetHostProxyKind() const override { return HostProxyKind::IN_PROCESS; }
+
+    // The object as the in-process world's proxy, or null if it is none.
+    static IPCObjectProxy* InProcessOf(IRemoteObject* object);
 
     // The process of the target died: later requests fail with ERR_DEAD_OBJECT and the recipients are told on an
     // IPC thread. Returns once they have been told, unless called on an IPC thread (it would wait for itself).

@@ -52,6 +52,12 @@ public:
     virtual sptr<IRemoteBroker> AsInterface();
     virtual int Dump(int fd, const std::vector<std::u16string>& args) = 0;
 
+    // Host only, not in the platform's header: which of the host's own proxies this object is, so that the host's
+    // IPC and system ability manager tell them apart without RTTI, as IsProxyObject() tells a proxy from a stub.
+    // The library never asks.
+    enum class HostProxyKind { NONE, IN_PROCESS, ACROSS_PROCESSES };
+    virtual HostProxyKind GetHostProxyKind() const;
+
     bool Marshalling(Parcel& parcel) const override;
     static sptr<IRemoteObject> Unmarshalling(Parcel& parcel);
     static bool Marshalling(Parcel& parcel, const sptr<IRemoteObject>& object);

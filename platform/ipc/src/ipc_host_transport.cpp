@@ -140,7 +140,7 @@ sptr<IRemoteObject> IpcHostTransport::ConnectToContextObject(const std::string& 
 
 pid_t IpcHostTransport::PeerPid(const sptr<IRemoteObject>& object)
 {
-    const auto* imported = dynamic_cast<const ImportedHandle*>(object.GetRefPtr());
+    const ImportedHandle* imported = SessionProxy::ImportedOf(object.GetRefPtr());
     return imported != nullptr && imported->session != nullptr ? imported->session->PeerPid() : -1;
 }
 

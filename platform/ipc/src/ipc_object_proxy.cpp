@@ -37,6 +37,14 @@ IPCObjectProxy::IPCObjectProxy(const sptr<IRemoteObject>& target) :
 
 IPCObjectProxy::~IPCObjectProxy() = default;
 
+IPCObjectProxy* IPCObjectProxy::InProcessOf(IRemoteObject* object)
+{
+    if (object == nullptr || object->GetHostProxyKind() != HostProxyKind::IN_PROCESS) {
+        return nullptr;
+    }
+    return static_cast<IPCObjectProxy*>(object);
+}
+
 sptr<IRemoteObject> IPCObjectProxy::Target() const
 {
     std::lock_guard<std::mutex> lock(mutex_);

@@ -49,25 +49,25 @@ sptr<IRemoteBroker> IRemoteObject::AsInterface()
     return nullptr;
 }
 
+IRemoteObject::HostProxyKind IRemoteObject::GetHostProxyKind() const
+{
+    return HostProxyKind::NONE;
+}
+
+// Objects travel in message parcels only, as on the platform: the parcel is one.
 bool IRemoteObject::Marshalling(Parcel& parcel) const
 {
-    auto* messageParcel = dynamic_cast<MessageParcel*>(&parcel);
-    if (messageParcel == nullptr) {
-        return false;
-    }
-    return messageParcel->WriteRemoteObject(const_cast<IRemoteObject*>(this));
+    return static_cast<MessageParcel&>(parcel).WriteRemoteObject(const_cast<IRemoteObject*>(this));
 }
 
 bool IRemoteObject::Marshalling(Parcel& parcel, const sptr<IRemoteObject>& object)
 {
-    auto* messageParcel = dynamic_cast<MessageParcel*>(&parcel);
-    return messageParcel != nullptr && messageParcel->WriteRemoteObject(object);
+    return static_cast<MessageParcel&>(parcel).WriteRemoteObject(object);
 }
 
 sptr<IRemoteObject> IRemoteObject::Unmarshalling(Parcel& parcel)
 {
-    auto* messageParcel = dynamic_cast<MessageParcel*>(&parcel);
-    return messageParcel != nullptr ? messageParcel->ReadRemoteObject() : nullptr;
+    return static_cast<MessageParcel&>(parcel).ReadRemoteObject();
 }
 
 std::u16string IRemoteObject::GetObjectDescriptor() const

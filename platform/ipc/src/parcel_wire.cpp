@@ -18,6 +18,7 @@
 #include "export_table.h"
 #include "ipc_log.h"
 #include "parcel_records.h"
+#include "session_proxy.h"
 
 namespace OHOS {
 namespace {
@@ -36,7 +37,7 @@ bool Describe(const sptr<IRemoteObject>& object, Session& to, IpcFrame::Object& 
         entry.value = ExportTable::OfProcess().Export(object, to.Serial());
         return true;
     }
-    const auto* imported = dynamic_cast<const ImportedHandle*>(object.GetRefPtr());
+    const ImportedHandle* imported = SessionProxy::ImportedOf(object.GetRefPtr());
     if (imported == nullptr || imported->session == nullptr) {
         IPC_HOST_LOGE("a %{public}s object cannot go to another process",
                       imported == nullptr ? "in-process remote" : "dead");

@@ -38,6 +38,14 @@ SessionProxy::SessionProxy(std::shared_ptr<Session> session, uint64_t handle, st
 {
 }
 
+const ImportedHandle* SessionProxy::ImportedOf(const IRemoteObject* object)
+{
+    if (object == nullptr || object->GetHostProxyKind() != HostProxyKind::ACROSS_PROCESSES) {
+        return nullptr;
+    }
+    return static_cast<const SessionProxy*>(object);
+}
+
 int32_t SessionProxy::GetObjectRefCount()
 {
     return GetSptrRefCount();

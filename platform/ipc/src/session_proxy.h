@@ -45,6 +45,10 @@ public:
     bool RemoveDeathRecipient(const sptr<DeathRecipient>& recipient) override;
     int Dump(int fd, const std::vector<std::u16string>& args) override;
     void OnLastStrongRef(const void* objectId) override;
+    HostProxyKind GetHostProxyKind() const override { return HostProxyKind::ACROSS_PROCESSES; }
+
+    // The handle behind the object when it is a proxy of another process's object, else null.
+    static const ImportedHandle* ImportedOf(const IRemoteObject* object);
 
     // What an object named by a frame from the session is here: a proxy that keeps the reference the frame carried,
     // or, for a third process's object, one that takes a reference at its owner now. A proxy whose owner no longer

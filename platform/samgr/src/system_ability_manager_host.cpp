@@ -174,7 +174,7 @@ sptr<IRemoteObject> SystemAbilityManagerHost::Publish(int32_t systemAbilityId, c
 {
     sptr<IRemoteObject> remote = ProcessBoundary::Translate(ability);
     std::lock_guard<std::mutex> lock(mutex_);
-    if (auto* proxy = dynamic_cast<IPCObjectProxy*>(remote.GetRefPtr()); proxy != nullptr) {
+    if (auto* proxy = IPCObjectProxy::InProcessOf(remote.GetRefPtr()); proxy != nullptr) {
         proxy->RefuseDeathRecipients(deathRecipientsRefused_);
     } else if (auto known = abilities_.find(systemAbilityId); known == abilities_.end() || known->second != remote) {
         if (!remote->AddDeathRecipient(new AbilityDeath(*this, systemAbilityId))) {
@@ -389,7 +389,7 @@ void SystemAbilityManagerHost::SetDeathRecipientsRefused(bool refused)
     std::lock_guard<std::mutex> lock(mutex_);
     deathRecipientsRefused_ = refused;
     for (const auto& [id, ability] : abilities_) {
-        if (auto* proxy = dynamic_cast<IPCObjectProxy*>(ability.GetRefPtr()); proxy != nullptr) {
+        if (auto* proxy = IPCObjectProxy::InProcessOf(ability.GetRefPtr()); proxy != nullptr) {
             proxy->RefuseDeathRecipients(refused);
         }
     }
@@ -414,7 +414,7 @@ pid_t SystemAbilityManagerHost::Kill(int32_t systemAbilityId)
             processes_.erase(started);
         }
     }
-    if (auto* proxy = dynamic_cast<IPCObjectProxy*>(ability.GetRefPtr()); proxy != nullptr) {
+    if (auto* proxy = IPCObjectProxy::InProcessOf(ability.GetRefPtr()); proxy != nullptr) {
         proxy->Kill();
         return 0;
     }
@@ -460,7 +460,7 @@ void SystemAbilityManagerHost::Reset()
         deathRecipientsRefused_ = false;
     }
     for (const auto& [id, ability] : abilities) {
-        if (auto* proxy = dynamic_cast<IPCObjectProxy*>(ability.GetRefPtr()); proxy != nullptr) {
+        if (auto* proxy = IPCObjectProxy::InProcessOf(ability.GetRefPtr()); proxy != nullptr) {
             proxy->RefuseDeathRecipients(false);
         }
     }

@@ -21,11 +21,11 @@
 namespace OHOS {
 namespace Zelkon {
 
+// Written only into request parcels, which are message parcels: the descriptor needs one.
 bool DataBean::Marshalling(Parcel& parcel) const
 {
-    auto* messageParcel = dynamic_cast<MessageParcel*>(&parcel);
-    return messageParcel != nullptr && parcel.WriteString(fileName) && parcel.WriteInt64(fileSize) &&
-           messageParcel->WriteFileDescriptor(fd);
+    return parcel.WriteString(fileName) && parcel.WriteInt64(fileSize) &&
+           static_cast<MessageParcel&>(parcel).WriteFileDescriptor(fd);
 }
 
 } // namespace Zelkon

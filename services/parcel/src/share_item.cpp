@@ -27,8 +27,8 @@ bool ShareItem::Marshalling(Parcel& parcel) const
     if (!parcel.WriteString(uri)) {
         return false;
     }
-    auto* messageParcel = dynamic_cast<MessageParcel*>(&parcel);
-    if (messageParcel == nullptr || !messageParcel->WriteFileDescriptor(fd)) {
+    // Items travel only inside a common share's request parcel, a message parcel: the descriptor needs one.
+    if (!static_cast<MessageParcel&>(parcel).WriteFileDescriptor(fd)) {
         SHARE_NAPI_LOGE("WriteFileDescriptor failed, fd %{public}d.", fd);
         return false;
     }

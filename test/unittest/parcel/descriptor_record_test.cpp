@@ -13,7 +13,7 @@
  * limitations under the License.
  */
 
-// The records that carry file descriptors: they need a message parcel, travel in the services' order with their
+// The records that carry file descriptors: they travel in the services' order with their
 // descriptors, and name the descriptor that cannot travel.
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -58,7 +58,7 @@ bool ReadsDescriptor(MessageParcel& parcel)
     return true;
 }
 
-TEST(DescriptorRecordTest, DataBeanCarriesItsDescriptorOnlyInAMessageParcel)
+TEST(DescriptorRecordTest, DataBeanCarriesItsDescriptor)
 {
     OpenFile file;
     DataBean bean;
@@ -71,21 +71,18 @@ TEST(DescriptorRecordTest, DataBeanCarriesItsDescriptorOnlyInAMessageParcel)
     EXPECT_EQ(parcel.ReadInt64(), 1 << 20);
     EXPECT_TRUE(ReadsDescriptor(parcel));
     EXPECT_EQ(parcel.GetReadableBytes(), 0u);
-    Parcel plain;
-    EXPECT_FALSE(bean.WriteToParcel(plain));
     EXPECT_FALSE(DataBean().WriteToParcel(parcel));
 }
 
 TEST(DescriptorRecordTest, ShareItemNamesTheDescriptorThatCannotTravel)
 {
+    MessageParcel parcel;
+    CapturedLog log;
+    EXPECT_FALSE(Item("file://docs/a", -1).WriteToParcel(parcel));
+    EXPECT_EQ(log.Count("ShareNapi", "WriteFileDescriptor failed, fd -1.", LOG_ERROR), 1u);
+    // A uri that does not fit fails before the descriptor, without a line.
     OpenFile file;
     const ShareItem item = Item("file://docs/a", file.Fd());
-    Parcel plain;
-    CapturedLog log;
-    EXPECT_FALSE(item.WriteToParcel(plain));
-    EXPECT_EQ(log.Count("ShareNapi", "WriteFileDescriptor failed, fd " + std::to_string(file.Fd()) + ".", LOG_ERROR),
-              1u);
-    // A uri that does not fit fails before the descriptor, without a line.
     MessageParcel full;
     FillLeaving(full, 0);
     log.Clear();

@@ -319,7 +319,7 @@ TEST_F(ShareClientRequestTest, PermanentDeviceListReadsUpToAThousandRecordsAndNa
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.line.text);
-        stub_->SetHandler([this, c](uint32_t code, MessageParcel& data, MessageParcel& reply) {
+        stub_->SetHandler([c](uint32_t code, MessageParcel& data, MessageParcel& reply) {
             EXPECT_EQ(code, 26u);
             EXPECT_TRUE(Mismatches(data, ZelkonService::GetDescriptor(), {}).empty());
             if (c.written >= 0) {

@@ -228,7 +228,7 @@ TEST_F(ShareManagerRequestTest, EnableStateIsTheRepliedIntegerAndTheSwingFocusLo
     stub_->SetHandler([](uint32_t, MessageParcel&, MessageParcel& reply) { return reply.WriteInt32(-17) ? 0 : 1; });
     EXPECT_EQ(Client().GetEnableState(), -17);
     for (bool answer : {true, false}) {
-        stub_->SetHandler([this, answer](uint32_t code, MessageParcel& data, MessageParcel& reply) {
+        stub_->SetHandler([answer](uint32_t code, MessageParcel& data, MessageParcel& reply) {
             EXPECT_EQ(code, 36u);
             EXPECT_TRUE(Mismatches(data, IWidgetService::GetDescriptor(), {}).empty());
             return reply.WriteBool(answer) ? 0 : 1;
