@@ -113,7 +113,7 @@ const std::vector<Case> CASES = {
     {"ListQualifiesSharedNames", "list", "", 0, "share      8  share.SendFile.DataBean"},
     {"ListAsJson", "--json list", "", 0, R"("name": "manager.Cancel")"},
     {"Describe", "describe manager.Cancel", "", 0,
-     "  request    the interface token, then deviceInfo: ShareDeviceInfo, its 19 fields"},
+     "  request    the interface token, then deviceInfo: ShareDeviceInfo (its 19 fields"},
     {"DescribeListener", "describe UnPublish", "", 0, "    listener  IPublishListener: a local stub"},
     {"DescribeUnknown", "describe Nope", "", 2, "unknown operation 'Nope'"},
     {"SharedNameNeedsItsService", "call Cancel", "", 2, "say which, share.Cancel, manager.Cancel"},
