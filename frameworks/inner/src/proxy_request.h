@@ -118,6 +118,9 @@ public:
     const LogSite& Site() const { return site_; }
 
     static constexpr int32_t WAIT_TIME_SECONDS = 8;
+    // The most records that a list reply may count, in both services. The count is read as an int32 and compared
+    // signed: a negative count reads as an empty list. The two readers differ in the rest (see each).
+    static constexpr int32_t MAX_LIST_RECORDS = 1000;
 
 private:
     bool SendCode(uint32_t code);

@@ -134,14 +134,15 @@ bool ShareManagerSrvProxy::StopConnect()
 bool ShareManagerSrvProxy::ReadDeviceList(MessageParcel& reply, std::vector<ShareDeviceInfo>& devices,
                                           const LogSite& site, const char* prefix)
 {
-    // The bound is signed: a negative count reads as an empty list.
+    // The bound of the permanent device list too; the counter line keeps its own text, " ." ending included.
     int32_t count = 0;
-    if (!reply.ReadInt32(count) || count > MAX_DEVICE_COUNT) {
+    if (!reply.ReadInt32(count) || count > ProxyRequest::MAX_LIST_RECORDS) {
         SHARE_LOG_AT(SHARE_MANAGER_PROXY_LABEL, LOG_ERROR, site, "%{public}sRead device counter failed %{public}d .",
                      prefix, count);
         return false;
     }
-    // Each record is read into a temporary and copied into the list, which grows as needed.
+    // All or nothing, as the callers promise: the records go into a list of their own, given out only when all were
+    // read. Each is read into a temporary and copied into that list, which grows as needed.
     std::vector<ShareDeviceInfo> read;
     for (int32_t i = 0; i < count; ++i) {
         ShareDeviceInfo device;

@@ -323,14 +323,17 @@ std::vector<PermanentDeviceInfo> ShareSrvProxy::GetPermanentDeviceList()
     if (!Open(req)) {
         return devices;
     }
-    // A failed send is only logged: the empty reply then fails at the counter.
+    // A failed send is only logged: the empty reply then fails at the counter, so that the counter line follows the
+    // send's, where the user lists stop at the send.
     req.SendWithoutExitLine(Code::GET_PERMANENT_DEVICE_LIST);
     MessageParcel& reply = req.Reply();
     int32_t count = 0;
-    if (!reply.ReadInt32(count) || count > MAX_PERMANENT_DEVICES) {
+    if (!reply.ReadInt32(count) || count > ProxyRequest::MAX_LIST_RECORDS) {
         SHARE_PROXY_LOGE("GetPermanentDeviceList Read device counter failed %{public}d.", count);
         return devices;
     }
+    // A malformed record ends the list: the devices read before it are returned, as ShareClient promises, where the
+    // user lists give all or nothing.
     for (int32_t i = 0; i < count; ++i) {
         PermanentDeviceInfo device;
         if (!device.ReadFromParcel(reply)) {
