@@ -128,6 +128,8 @@ const std::vector<Case> CASES = {
      "PrepareSend -> false (no or refused"},
     {"CallExplainsTheState", "call GetEnableState", "", 0, "GetEnableState -> 1 (the state last given"},
     {"CallOutParameter", "call GetPontalPublishInfo", "", 0, R"(  "publishInfo": "{\"deviceName\")"},
+    {"CallExplainsAnAccountWithoutUid", "--world /dev/stdin call GetAccountInfo", R"({"account": {"callingUid": -1}})",
+     0, "GetAccountInfo -> the record as the library constructs it"},
     {"CallAsJson", "--json call IsEnabled", "", 0, R"("result": true)"},
     {"CallUnknownArgument", "call RemovePermanentDeviceById ident=2", "", 2, "has no argument 'ident'"},
     {"CallUnknownField", R"(call PrepareSend deviceInfo='{"colour":1}')", "", 2, "deviceInfo.colour: unknown field"},
