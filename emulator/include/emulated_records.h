@@ -27,9 +27,9 @@ namespace OHOS {
 namespace Zelkon {
 
 struct ContactEntry {
-    int32_t kind = 0;
-    std::string name;
-    std::string photo;
+    int32_t contactKind = 0;
+    std::string contactName;
+    std::string contactPhoto;
 };
 
 // A peer as the share manager service shows it to the user.
@@ -48,7 +48,7 @@ struct UserEntry {
     int32_t nearbyVersion = 0;
     int64_t lastSharedTime = 0;
     bool isSameAccount = false;
-    ContactEntry contact;
+    ContactEntry contactInfo;
     bool isOHDevice = false;
     uint32_t deviceFounder = 0;
     std::string concurentId;
@@ -70,8 +70,8 @@ struct SharingSwitch {
 };
 
 struct AccountEntry {
-    std::string accountId;
-    std::string accountIdHash;
+    std::string norvaneAccountID;
+    std::string norvaneAccountIDHash;
     int32_t status = 0;
     int32_t callingUid = -1;
     std::string nickName;

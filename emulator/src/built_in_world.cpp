@@ -46,7 +46,7 @@ UserEntry MakeUser(const std::string& name, const std::string& account, int32_t 
     user.nearbyVersion = nearbyVersion;
     user.lastSharedTime = 1700000000000;
     user.isSameAccount = account == "me@example.com";
-    user.contact = {1, contactName, "photo-of-" + contactName};
+    user.contactInfo = {1, contactName, "photo-of-" + contactName};
     user.isOHDevice = true;
     user.deviceFounder = 0x80000001u;
     return user;

@@ -77,8 +77,9 @@ bool TransferUserEntry(Codec& codec, Entry& user)
            codec.Bool("isDisappeared", user.isDisappeared) && codec.Int32("deviceType", user.deviceType) &&
            codec.String("deviceId", user.deviceId) && codec.Int32("nearbyVersion", user.nearbyVersion) &&
            codec.Int64("lastSharedTime", user.lastSharedTime) && codec.Bool("isSameAccount", user.isSameAccount) &&
-           codec.Int32("contact.kind", user.contact.kind) && codec.String("contact.name", user.contact.name) &&
-           codec.String("contact.photo", user.contact.photo) && codec.Bool("isOHDevice", user.isOHDevice) &&
+           codec.Int32("contact.kind", user.contactInfo.contactKind) &&
+           codec.String("contact.name", user.contactInfo.contactName) &&
+           codec.String("contact.photo", user.contactInfo.contactPhoto) && codec.Bool("isOHDevice", user.isOHDevice) &&
            codec.Uint32("deviceFounder", user.deviceFounder) && codec.String("concurentId", user.concurentId) &&
            codec.Int32("extraValue", user.extraValue);
 }
@@ -90,7 +91,7 @@ bool ReadUserEntry(RequestReader& reader, UserEntry& user)
 
 bool WriteUserEntry(ReplyWriter& writer, const UserEntry& user)
 {
-    writer.MakeRoom(user.avatar.size() + user.contact.photo.size());
+    writer.MakeRoom(user.avatar.size() + user.contactInfo.contactPhoto.size());
     return TransferUserEntry(writer, user);
 }
 
@@ -103,10 +104,10 @@ bool WritePermanentEntry(ReplyWriter& writer, const PermanentEntry& entry)
 
 bool WriteAccountEntry(ReplyWriter& writer, const AccountEntry& account)
 {
-    return writer.String("norvaneAccountID", account.accountId) &&
-           writer.String("norvaneAccountIDHash", account.accountIdHash) && writer.Int32("status", account.status) &&
-           writer.Int32("callingUid", account.callingUid) && writer.String("nickName", account.nickName) &&
-           writer.String("avatar", account.avatar);
+    return writer.String("norvaneAccountID", account.norvaneAccountID) &&
+           writer.String("norvaneAccountIDHash", account.norvaneAccountIDHash) &&
+           writer.Int32("status", account.status) && writer.Int32("callingUid", account.callingUid) &&
+           writer.String("nickName", account.nickName) && writer.String("avatar", account.avatar);
 }
 
 bool ReadFoundDevice(RequestReader& reader, FoundDevice& device)

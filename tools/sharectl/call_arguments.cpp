@@ -15,8 +15,6 @@
 
 #include "call_arguments.h"
 
-#include "argument_types.h"
-#include "strict_values.h"
 #include "usage_error.h"
 
 namespace OHOS {
@@ -26,7 +24,7 @@ std::string ArgumentNames(const Operation& operation)
 {
     std::string names;
     for (const Argument& argument : operation.arguments) {
-        names += (names.empty() ? "" : ", ") + std::string(argument.name);
+        names += (names.empty() ? "" : ", ") + argument.name;
     }
     return names.empty() ? "none" : names;
 }
@@ -40,33 +38,6 @@ const Argument& FindArgument(const Operation& operation, const std::string& name
     }
     throw UsageError(std::string(operation.name) + " has no argument '" + name +
                      "' (its arguments: " + ArgumentNames(operation) + ")");
-}
-
-nlohmann::json ReadValue(const Argument& argument, const std::string& text)
-{
-    const std::string name = argument.name;
-    switch (argument.type) {
-    case ArgumentType::INT32:
-        return RequireInteger<int32_t>(text, name);
-    case ArgumentType::UINT32:
-        return RequireInteger<uint32_t>(text, name);
-    case ArgumentType::BOOL:
-        return RequireBool(text, name);
-    case ArgumentType::STRING:
-        return text;
-    case ArgumentType::LOCAL_STUB:
-        throw UsageError(name + " is a local " + argument.interfaceName + " that sharectl creates: it takes no value");
-    default:
-        break;
-    }
-    try {
-        nlohmann::json json = ParseJsonText(text);
-        ForRecordType(argument.type, [&json, &name](auto record) { JsonFieldReader::Read(json, name, record); });
-        return json;
-    } catch (const JsonFieldError& error) {
-        const std::string what = error.what();
-        throw UsageError(what.rfind(name, 0) == 0 ? what : name + ": " + what);
-    }
 }
 } // namespace
 
@@ -83,7 +54,10 @@ CallArguments::CallArguments(const Operation& operation, const std::vector<std::
         if (values_.count(name) != 0) {
             throw UsageError(name + " is given twice");
         }
-        values_[name] = ReadValue(argument, text.substr(equals + 1));
+        if (argument.localStub) {
+            throw UsageError(name + " is a local " + argument.type + " that sharectl creates: it takes no value");
+        }
+        values_[name] = argument.read(text.substr(equals + 1), name);
     }
 }
 

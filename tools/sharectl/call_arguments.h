@@ -39,30 +39,19 @@ public:
     // Throws UsageError.
     CallArguments(const Operation& operation, const std::vector<std::string>& texts);
 
-    int32_t Int32(const char* name) const { return ValueOr<int32_t>(name); }
-    uint32_t Uint32(const char* name) const { return ValueOr<uint32_t>(name); }
-    bool Bool(const char* name) const { return ValueOr<bool>(name); }
-    std::string String(const char* name) const { return ValueOr<std::string>(name); }
-
-    template <typename Record>
-    Record RecordOf(const char* name) const
+    // The value of an argument, read by the type of the client's parameter; that type's default when left out.
+    template <typename Value>
+    Value Get(const char* name) const
     {
-        Record record;
-        auto value = values_.find(name);
-        if (value != values_.end()) {
-            JsonFieldReader::Read(value->second, name, record);
+        Value value{};
+        auto found = values_.find(name);
+        if (found != values_.end()) {
+            JsonFieldReader::Read(found->second, name, value);
         }
-        return record;
+        return value;
     }
 
 private:
-    template <typename Value>
-    Value ValueOr(const char* name) const
-    {
-        auto value = values_.find(name);
-        return value != values_.end() ? value->second.get<Value>() : Value();
-    }
-
     // Checked when the arguments were read.
     std::map<std::string, nlohmann::json> values_;
 };

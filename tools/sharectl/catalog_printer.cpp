@@ -17,8 +17,6 @@
 
 #include <cstdio>
 
-#include "argument_types.h"
-#include "json_field_schema.h"
 #include "share_emulator.h"
 
 namespace OHOS {
@@ -33,27 +31,13 @@ std::string Dumped(const nlohmann::ordered_json& json, int indent = -1)
     return json.dump(indent, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
-nlohmann::ordered_json SchemaOf(ArgumentType type)
-{
-    nlohmann::ordered_json schema;
-    ForRecordType(type, [&schema](auto record) { schema = JsonFieldSchema::Of<decltype(record)>(); });
-    return schema;
-}
-
 std::string ArgumentText(const Argument& argument)
 {
-    std::string text = ArgumentTypeName(argument);
-    if (argument.type == ArgumentType::LOCAL_STUB) {
-        return text + ": a local stub that sharectl creates";
+    if (argument.localStub) {
+        return argument.type + ": a local stub that sharectl creates";
     }
-    const nlohmann::ordered_json schema = SchemaOf(argument.type);
-    if (!schema.is_null()) {
-        text += ", as JSON: " + Dumped(schema);
-    }
-    if (argument.type == ArgumentType::TRANSMIT_PARAM) {
-        text += "; its transCallback is a local stub that sharectl creates";
-    }
-    return text;
+    return argument.type + (argument.schema.is_null() ? "" : ", as JSON: " + Dumped(argument.schema)) +
+           (argument.note.empty() ? "" : "; " + argument.note);
 }
 
 std::string ServiceDescription(ServiceKind service)
@@ -86,11 +70,11 @@ void PrintOperationDescription(const Operation& operation, Output& out)
     nlohmann::ordered_json arguments = nlohmann::ordered_json::array();
     out.Line(operation.arguments.empty() ? "  arguments  none" : "  arguments");
     for (const Argument& argument : operation.arguments) {
-        out.Line("    " + std::string(argument.name) + "  " + ArgumentText(argument));
+        out.Line("    " + argument.name + "  " + ArgumentText(argument));
         arguments.push_back({{"name", argument.name},
-                             {"type", ArgumentTypeName(argument)},
-                             {"createdBySharectl", argument.type == ArgumentType::LOCAL_STUB},
-                             {"schema", SchemaOf(argument.type)}});
+                             {"type", argument.type},
+                             {"createdBySharectl", argument.localStub},
+                             {"schema", argument.schema}});
     }
     out.Line("  request    the interface token, then " + operation.request);
     out.Line("  reply      " + operation.reply);

@@ -23,6 +23,7 @@
 
 #include <atomic>
 #include <cstdint>
+#include <tuple>
 
 #include "iremote_proxy.h"
 #include "iremote_stub.h"
@@ -38,16 +39,21 @@ class DemoRemote : public IRemoteStub<Interface> {
 
 // One listener or callback per interface that the operations of both services take; the same object for every
 // operation of one run, so that an unregistration names what the registration registered.
-struct LocalRemotes {
-    sptr<DemoRemote<IPublishListener>> publishListener = new DemoRemote<IPublishListener>();
-    sptr<DemoRemote<ISubscribeListener>> subscribeListener = new DemoRemote<ISubscribeListener>();
-    sptr<DemoRemote<ZelkonReceiveListener>> receiveListener = new DemoRemote<ZelkonReceiveListener>();
-    sptr<DemoRemote<ICommonReceiveListener>> commonReceiveListener = new DemoRemote<ICommonReceiveListener>();
-    sptr<DemoRemote<ITransmitCallback>> transmitCallback = new DemoRemote<ITransmitCallback>();
-    sptr<DemoRemote<ZelkonWidgetServiceCallback>> widgetCallback = new DemoRemote<ZelkonWidgetServiceCallback>();
-    sptr<DemoRemote<ISenderActionCallback>> senderActionCallback = new DemoRemote<ISenderActionCallback>();
-    sptr<DemoRemote<ZelkonApiCallback>> apiCallback = new DemoRemote<ZelkonApiCallback>();
+template <typename... Interfaces>
+class StubSet {
+public:
+    template <typename Interface>
+    const sptr<DemoRemote<Interface>>& Stub() const
+    {
+        return std::get<sptr<DemoRemote<Interface>>>(stubs_);
+    }
+
+private:
+    std::tuple<sptr<DemoRemote<Interfaces>>...> stubs_{new DemoRemote<Interfaces>()...};
 };
+
+using LocalRemotes = StubSet<IPublishListener, ISubscribeListener, ZelkonReceiveListener, ICommonReceiveListener,
+                             ITransmitCallback, ZelkonWidgetServiceCallback, ISenderActionCallback, ZelkonApiCallback>;
 
 // Asks the object behind a sender or receiver for its handle number; -1 when it does not answer.
 int32_t QueryHandle(const sptr<IRemoteObject>& object, const std::u16string& token);

@@ -15,49 +15,25 @@
 
 /*
  * The JSON field lists of the library's records, as an application fills them: the arguments of `sharectl call`
- * are read with them and its results written with them. Keys are the records' own member names. The callback
- * of a TransmitParam is not among them: sharectl creates it.
+ * are read with them and its results written with them. Keys are the records' own member names; the records that
+ * the emulator holds too take the emulator's lists (emulated_record_fields.h). The callback of a TransmitParam is
+ * not among them: sharectl creates it.
  */
 #ifndef LIBRARY_RECORD_FIELDS_H
 #define LIBRARY_RECORD_FIELDS_H
 
+#include "emulated_record_fields.h"
 #include "share_client.h"
 #include "share_manager_client.h"
 
 namespace OHOS {
 namespace Zelkon {
 
-template <typename Visitor>
-void VisitFields(Visitor& visitor, ContactInfo& contact)
-{
-    visitor.Field("contactKind", contact.contactKind);
-    visitor.Field("contactName", contact.contactName);
-    visitor.Field("contactPhoto", contact.contactPhoto);
-}
-
-template <typename Visitor>
-void VisitFields(Visitor& visitor, ShareDeviceInfo& info)
-{
-    visitor.Field("deviceName", info.deviceName);
-    visitor.Field("norvaneIdName", info.norvaneIdName);
-    visitor.Field("avatar", info.avatar);
-    visitor.Field("colorId", info.colorId);
-    visitor.Field("eventCode", info.eventCode);
-    visitor.Field("stateCode", info.stateCode);
-    visitor.Field("percent", info.percent);
-    visitor.Field("speed", info.speed);
-    visitor.Field("isDisappeared", info.isDisappeared);
-    visitor.Field("deviceType", info.deviceType);
-    visitor.Field("deviceId", info.deviceId);
-    visitor.Field("nearbyVersion", info.nearbyVersion);
-    visitor.Field("lastSharedTime", info.lastSharedTime);
-    visitor.Field("isSameAccount", info.isSameAccount);
-    visitor.Field("contactInfo", info.contactInfo);
-    visitor.Field("isOHDevice", info.isOHDevice);
-    visitor.Field("deviceFounder", info.deviceFounder);
-    visitor.Field("concurentId", info.concurentId);
-    visitor.Field("extraValue", info.extraValue);
-}
+// The records that the emulator holds too take the emulator's field lists.
+ContactEntry FieldListOf(const ContactInfo&);
+UserEntry FieldListOf(const ShareDeviceInfo&);
+PermanentEntry FieldListOf(const PermanentDeviceInfo&);
+AccountEntry FieldListOf(const ShareAccountInfo&);
 
 template <typename Visitor>
 void VisitFields(Visitor& visitor, FileItem& file)
@@ -122,27 +98,6 @@ void VisitFields(Visitor& visitor, TransmitParam& param)
     visitor.Field("deviceId", param.deviceId);
     visitor.Field("timeout", param.timeout);
     visitor.Field("transmitEventType", param.transmitEventType);
-}
-
-template <typename Visitor>
-void VisitFields(Visitor& visitor, PermanentDeviceInfo& device)
-{
-    visitor.Field("id", device.id);
-    visitor.Field("deviceName", device.deviceName);
-    visitor.Field("deviceType", device.deviceType);
-    visitor.Field("deviceId", device.deviceId);
-    visitor.Field("timestamp", device.timestamp);
-}
-
-template <typename Visitor>
-void VisitFields(Visitor& visitor, ShareAccountInfo& account)
-{
-    visitor.Field("norvaneAccountID", account.norvaneAccountID);
-    visitor.Field("norvaneAccountIDHash", account.norvaneAccountIDHash);
-    visitor.Field("status", account.status);
-    visitor.Field("callingUid", account.callingUid);
-    visitor.Field("nickName", account.nickName);
-    visitor.Field("avatar", account.avatar);
 }
 
 } // namespace Zelkon

@@ -37,7 +37,7 @@ StepResult KillShareService(Session& session)
 StepResult ReloadOnNextCall(Session& session)
 {
     const int loads = SamgrHostControl::LoadCount(EMULATED_SHARE_SERVICE_ID);
-    const int32_t result = ShareClient::GetInstance().Publish(session.remotes.publishListener);
+    const int32_t result = ShareClient::GetInstance().Publish(session.remotes.Stub<IPublishListener>());
     const int reloads = SamgrHostControl::LoadCount(EMULATED_SHARE_SERVICE_ID) - loads;
     return {result == 1 && reloads == 1, "Publish -> " + Accepted(result).Text() + " after " + std::to_string(reloads) +
                                              " new load request(s)" + ProcessesWorld::ShareServiceNote()};

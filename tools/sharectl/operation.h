@@ -16,13 +16,15 @@
 /*
  * The 62 operations of both services as one table: the name `call` takes, the service and request code that carry
  * it, its arguments with their types, its request and reply as the wire carries them, and how sharectl calls it
- * through the library and decodes the result. list, describe and call all read it. The codes and layouts are
- * documentation for people; the emulator decodes the wire on its own.
+ * through the library and decodes the result. list, describe and call all read it; the rows are bound from the
+ * clients' functions (operation_binding.h). The emulator decodes the wire on its own, and the sharectl tests check
+ * each row's code against the request that the emulator traced.
  */
 #ifndef OPERATION_H
 #define OPERATION_H
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -35,27 +37,21 @@ namespace Zelkon {
 
 enum class ServiceKind { SHARE, MANAGER };
 
-enum class ArgumentType {
-    INT32,
-    UINT32,
-    BOOL,
-    STRING,
-    SHARE_DEVICE_INFO,
-    SEND_BEAN,
-    DATA_BEAN,
-    BYTES_INFO,
-    COMMON_SHARE_OBJECT,
-    SHARE_DEVICE,
-    TRANSMIT_PARAM,
-    // A listener or callback: sharectl passes its own local stub.
-    LOCAL_STUB,
-};
-
+// An argument of an operation, as describe shows it and call reads it: one parameter of the client function.
 struct Argument {
-    const char* name;
-    ArgumentType type;
-    // The interface of a LOCAL_STUB.
-    const char* interfaceName = nullptr;
+    std::string name;
+    // "int32", "ShareDeviceInfo", or the interface of a local stub.
+    std::string type;
+    // A listener or callback: sharectl passes its own local stub, and the argument takes no value.
+    bool localStub;
+    // A record's fields with their types; null for any other argument.
+    nlohmann::ordered_json schema;
+    // How the request carries it: "int32", "remote object", "SendBean (previewText: string, ...)".
+    std::string wire;
+    // What describe adds to the type, or empty.
+    std::string note;
+    // Reads the VALUE of NAME=VALUE strictly, as JSON; throws UsageError. Null for a local stub.
+    nlohmann::json (*read)(const std::string& text, const std::string& name);
 };
 
 // A result as JSON, and what it means where the value alone would mislead ("1" that is "accepted").
@@ -80,7 +76,7 @@ struct Operation {
     // The request after the interface token, and the reply.
     std::string request;
     std::string reply;
-    CallOutcome (*call)(const CallArguments& arguments, LocalRemotes& remotes);
+    std::function<CallOutcome(const CallArguments& arguments, LocalRemotes& remotes)> call;
 };
 
 const std::vector<Operation>& ShareServiceOperations();

@@ -39,7 +39,7 @@ TransmitParam ParamFor(Session& session, const std::string& deviceId)
     TransmitParam param;
     param.deviceId = deviceId;
     param.timeout = TRANSFER_TIMEOUT;
-    param.transCallback = session.remotes.transmitCallback;
+    param.transCallback = session.remotes.Stub<ITransmitCallback>();
     return param;
 }
 
@@ -90,7 +90,7 @@ StepResult LoadShareService(Session& session)
 
 StepResult PublishDevice(Session& session)
 {
-    const int32_t result = Client().Publish(session.remotes.publishListener);
+    const int32_t result = Client().Publish(session.remotes.Stub<IPublishListener>());
     std::string publishInfo;
     const int32_t infoResult = Client().GetPontalPublishInfo(publishInfo);
     return {result == 1 && infoResult == 1 && publishInfo.find("\"publishers\":1") != std::string::npos,
@@ -99,7 +99,7 @@ StepResult PublishDevice(Session& session)
 
 StepResult SubscribeDevice(Session& session)
 {
-    const int32_t result = Client().Subscribe(session.remotes.subscribeListener);
+    const int32_t result = Client().Subscribe(session.remotes.Stub<ISubscribeListener>());
     return {result == 1, "Subscribe -> " + Accepted(result).Text()};
 }
 
@@ -107,7 +107,7 @@ StepResult SkipLegacyDevice(Session& session)
 {
     const size_t mark = session.requests.Mark();
     const int32_t result = Client().OnCollabDeviceFound(MakeDevice("dev-0008-watch", "Old watch", 8),
-                                                        session.remotes.subscribeListener, 0);
+                                                        session.remotes.Stub<ISubscribeListener>(), 0);
     const bool sent = session.requests.LastOf(mark, "OnCollabDeviceFound").has_value();
     return {result == 0 && !sent, "Old watch (nearby version 8) -> " + std::to_string(result) +
                                       (sent ? ", but the service was asked" : ", skipped before the service")};
@@ -116,8 +116,8 @@ StepResult SkipLegacyDevice(Session& session)
 StepResult ForwardFoundDevice(Session& session)
 {
     const size_t mark = session.requests.Mark();
-    const int32_t result =
-        Client().OnCollabDeviceFound(MakeDevice(TABLET_ID, "Sam's tablet", 9), session.remotes.subscribeListener, 1);
+    const int32_t result = Client().OnCollabDeviceFound(MakeDevice(TABLET_ID, "Sam's tablet", 9),
+                                                        session.remotes.Stub<ISubscribeListener>(), 1);
     auto request = session.requests.LastOf(mark, "OnCollabDeviceFound");
     const std::string name = request ? RequestLog::Field(*request, "device.deviceName").value_or("?") : "nothing";
     return {result == 1 && name == "\"Sam's tablet\"",
@@ -163,7 +163,7 @@ StepResult SendCommonShare(Session& session)
     share.networkId = TABLET_ID;
     share.resumable = true;
     const size_t mark = session.requests.Mark();
-    sptr<ZelkonSender> sender = Client().CommonShareSend(share, session.remotes.transmitCallback);
+    sptr<ZelkonSender> sender = Client().CommonShareSend(share, session.remotes.Stub<ITransmitCallback>());
     auto request = session.requests.LastOf(mark, "CommonShareSend");
     const std::string content = request ? RequestLog::Field(*request, "share.content").value_or("?") : "?";
     const std::string expected = "(" + std::to_string(COMMON_SHARE_SIZE) + " bytes)";

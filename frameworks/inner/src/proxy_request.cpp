@@ -68,7 +68,7 @@ bool ProxyRequest::Check(bool ok, const char* failureText)
     return ok;
 }
 
-bool ProxyRequest::TransactCode(uint32_t code)
+bool ProxyRequest::SendCode(uint32_t code)
 {
     MessageOption option(MessageOption::TF_SYNC, WAIT_TIME_SECONDS);
     int32_t result = remote_->SendRequest(code, data_, reply_, option);

@@ -77,27 +77,28 @@ public:
         return Check(data_.WriteRemoteObject(broker->AsObject()), failureText);
     }
 
-    // Untested writes of plain words: the request goes on whatever they return, as the service expects.
+    // Unchecked writes of plain words: the request goes on whatever they return, as the service expects.
     template <typename... Values>
-    bool Put(Values... values)
+    bool PutUnchecked(Values... values)
     {
         (PutWord(values), ...);
         return true;
     }
 
     // Sends the code synchronously with the 8 s wait. A non-zero result logs "SendRequest is failed, error code: %d"
-    // and returns false. The exit text is not logged: see Send.
+    // and returns false. No exit text: for an operation that has none, or logs it itself once the reply is read or
+    // with a value of the reply.
     template <typename Code>
-    bool Transact(Code code)
+    bool SendWithoutExitLine(Code code)
     {
         static_assert(std::is_enum_v<Code>, "request codes are the interface's enumeration");
-        return TransactCode(static_cast<uint32_t>(code));
+        return SendCode(static_cast<uint32_t>(code));
     }
-    // Transact, then the exit text: the service has answered, the reply is not read yet.
+    // SendWithoutExitLine, then the exit text: the service has answered, the reply is not read yet.
     template <typename Code>
-    bool Send(Code code)
+    bool SendAndLogExit(Code code)
     {
-        if (!Transact(code)) {
+        if (!SendWithoutExitLine(code)) {
             return false;
         }
         LogExit();
@@ -117,9 +118,12 @@ public:
     const LogSite& Site() const { return site_; }
 
     static constexpr int32_t WAIT_TIME_SECONDS = 8;
+    // The most records that a list reply may count, in both services. The count is read as an int32 and compared
+    // signed: a negative count reads as an empty list. The two readers differ in the rest (see each).
+    static constexpr int32_t MAX_LIST_RECORDS = 1000;
 
 private:
-    bool TransactCode(uint32_t code);
+    bool SendCode(uint32_t code);
     void PutWord(int32_t value) { data_.WriteInt32(value); }
     void PutWord(bool value) { data_.WriteBool(value); }
 

@@ -61,40 +61,41 @@ bool ShareManagerSrvProxy::Open(ProxyRequest& request)
 bool ShareManagerSrvProxy::SetShareEnable(int32_t type, int32_t state, bool enable)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("Enable() Enter", "Enable() Exit"));
-    return Open(req) && req.Put(type, state, enable) && req.Send(Code::SET_SHARE_ENABLE) && req.ReplyBool();
+    return Open(req) && req.PutUnchecked(type, state, enable) && req.SendAndLogExit(Code::SET_SHARE_ENABLE) &&
+           req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::SetShareEnableWithConfirm(int32_t type, int32_t state, bool enable, bool confirm)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("EnableWithConfirm() Enter", "EnableWithConfirm() Exit"));
-    return Open(req) && req.Put(type, state, enable, confirm) && req.Send(Code::SET_SHARE_ENABLE_WITH_CONFIRM) &&
-           req.ReplyBool();
+    return Open(req) && req.PutUnchecked(type, state, enable, confirm) &&
+           req.SendAndLogExit(Code::SET_SHARE_ENABLE_WITH_CONFIRM) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::IsEnabled()
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("IsEnabled() Enter", "IsEnabled() Exit"));
-    return Open(req) && req.Send(Code::IS_ENABLED) && req.ReplyBool();
+    return Open(req) && req.SendAndLogExit(Code::IS_ENABLED) && req.ReplyBool();
 }
 
 int32_t ShareManagerSrvProxy::GetEnableState()
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("GetEnableState() Enter", "GetEnableState() Exit"));
-    return Open(req) && req.Send(Code::GET_ENABLE_STATE) ? req.Reply().ReadInt32() : 0;
+    return Open(req) && req.SendAndLogExit(Code::GET_ENABLE_STATE) ? req.Reply().ReadInt32() : 0;
 }
 
 bool ShareManagerSrvProxy::IsFocusPidsRegisterSwing()
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug(nullptr, nullptr));
-    return Open(req) && req.Send(Code::IS_FOCUS_PIDS_REGISTER_SWING) && req.ReplyBool();
+    return Open(req) && req.SendAndLogExit(Code::IS_FOCUS_PIDS_REGISTER_SWING) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::RegisterWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      Debug("RegisterWidgetCallback() Enter", "RegisterWidgetCallback() Exit"), NullCallback(callback));
-    return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) && req.Send(Code::REGISTER_WIDGET_CALLBACK) &&
-           req.ReplyBool();
+    return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) &&
+           req.SendAndLogExit(Code::REGISTER_WIDGET_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::UnRegisterWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback)
@@ -103,44 +104,45 @@ bool ShareManagerSrvProxy::UnRegisterWidgetCallback(const sptr<ZelkonWidgetServi
                      Debug("UnRegisterWidgetCallback() Enter", "UnRegisterWidgetCallback() Exit"),
                      NullCallback(callback));
     return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) &&
-           req.Send(Code::UNREGISTER_WIDGET_CALLBACK) && req.ReplyBool();
+           req.SendAndLogExit(Code::UNREGISTER_WIDGET_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::StartDiscovery()
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("StartDiscovery() Enter", "StartDiscovery() Exit"));
-    return Open(req) && req.Send(Code::START_DISCOVERY) && req.ReplyBool();
+    return Open(req) && req.SendAndLogExit(Code::START_DISCOVERY) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::StopDiscovery()
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("StopDiscovery() Enter", "StopDiscovery() Exit"));
-    return Open(req) && req.Send(Code::STOP_DISCOVERY) && req.ReplyBool();
+    return Open(req) && req.SendAndLogExit(Code::STOP_DISCOVERY) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::StartConnect()
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("StartConnect() Enter", "StartConnect() Exit"));
-    return Open(req) && req.Send(Code::START_CONNECT) && req.ReplyBool();
+    return Open(req) && req.SendAndLogExit(Code::START_CONNECT) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::StopConnect()
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("StopConnect() Enter", "StopConnect() Exit"));
-    return Open(req) && req.Send(Code::STOP_CONNECT) && req.ReplyBool();
+    return Open(req) && req.SendAndLogExit(Code::STOP_CONNECT) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::ReadDeviceList(MessageParcel& reply, std::vector<ShareDeviceInfo>& devices,
                                           const LogSite& site, const char* prefix)
 {
-    // The bound is signed: a negative count reads as an empty list.
+    // The bound of the permanent device list too; the counter line keeps its own text, " ." ending included.
     int32_t count = 0;
-    if (!reply.ReadInt32(count) || count > MAX_DEVICE_COUNT) {
+    if (!reply.ReadInt32(count) || count > ProxyRequest::MAX_LIST_RECORDS) {
         SHARE_LOG_AT(SHARE_MANAGER_PROXY_LABEL, LOG_ERROR, site, "%{public}sRead device counter failed %{public}d .",
                      prefix, count);
         return false;
     }
-    // Each record is read into a temporary and copied into the list, which grows as needed.
+    // All or nothing, as the callers promise: the records go into a list of their own, given out only when all were
+    // read. Each is read into a temporary and copied into that list, which grows as needed.
     std::vector<ShareDeviceInfo> read;
     for (int32_t i = 0; i < count; ++i) {
         ShareDeviceInfo device;
@@ -159,7 +161,7 @@ std::vector<ShareDeviceInfo> ShareManagerSrvProxy::GetAllUserList()
     std::vector<ShareDeviceInfo> devices;
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"GetAllUserList Enter", LOG_DEBUG, nullptr, LOG_DEBUG, ALL_USER_LIST_PREFIX});
-    if (Open(req) && req.Transact(Code::GET_ALL_USER_LIST) &&
+    if (Open(req) && req.SendWithoutExitLine(Code::GET_ALL_USER_LIST) &&
         ReadDeviceList(req.Reply(), devices, req.Site(), ALL_USER_LIST_PREFIX)) {
         SHARE_MANAGER_PROXY_LOGD("GetAllUserList Exit size %{public}zu", devices.size());
     }
@@ -170,7 +172,7 @@ std::vector<ShareDeviceInfo> ShareManagerSrvProxy::GetSendingUserList()
 {
     std::vector<ShareDeviceInfo> devices;
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("GetSendingUserList Enter", "GetSendingUserList Exit"));
-    if (Open(req) && req.Transact(Code::GET_SENDING_USER_LIST) &&
+    if (Open(req) && req.SendWithoutExitLine(Code::GET_SENDING_USER_LIST) &&
         ReadDeviceList(req.Reply(), devices, req.Site(), "")) {
         req.LogExit();
     }
@@ -181,7 +183,7 @@ bool ShareManagerSrvProxy::PrepareSend(const ShareDeviceInfo& deviceInfo)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("PrepareSend() Enter", "PrepareSend() Exit"));
     return Open(req) && req.Check(deviceInfo.WriteToParcel(req.Data()), WRITE_SHARE_DEVICE_FAILED) &&
-           req.Send(Code::PREPARE_SEND) && req.ReplyBool();
+           req.SendAndLogExit(Code::PREPARE_SEND) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::Send(const ShareDeviceInfo& deviceInfo, SendBean& sendBean, const std::string& packageName)
@@ -190,7 +192,7 @@ bool ShareManagerSrvProxy::Send(const ShareDeviceInfo& deviceInfo, SendBean& sen
     MessageParcel& data = req.Data();
     return Open(req) && req.Check(deviceInfo.WriteToParcel(data), WRITE_DEVICE_INFO_FAILED) &&
            req.Check(sendBean.WriteToParcel(data), WRITE_SEND_BEAN_FAILED) &&
-           req.Check(data.WriteString(packageName), WRITE_PACKAGE_NAME_FAILED) && req.Send(Code::SEND) &&
+           req.Check(data.WriteString(packageName), WRITE_PACKAGE_NAME_FAILED) && req.SendAndLogExit(Code::SEND) &&
            req.ReplyBool();
 }
 
@@ -202,7 +204,7 @@ bool ShareManagerSrvProxy::SendFile(const ShareDeviceInfo& deviceInfo, const Dat
     MessageParcel& data = req.Data();
     return Open(req) && req.Check(deviceInfo.WriteToParcel(data), WRITE_DEVICE_INFO_FAILED) &&
            req.Check(dataBean.WriteToParcel(data), WRITE_SEND_BEAN_FAILED) &&
-           req.Check(data.WriteString(packageName), WRITE_PACKAGE_NAME_FAILED) && req.Send(Code::SEND_FILE) &&
+           req.Check(data.WriteString(packageName), WRITE_PACKAGE_NAME_FAILED) && req.SendAndLogExit(Code::SEND_FILE) &&
            req.ReplyBool();
 }
 
@@ -211,7 +213,7 @@ bool ShareManagerSrvProxy::SendBytes(const ShareDeviceInfo& deviceInfo, const By
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("SendBytes() Enter", "SendBytes() Exit"));
     MessageParcel& data = req.Data();
     return Open(req) && req.Check(deviceInfo.WriteToParcel(data), WRITE_DEVICE_INFO_FAILED) &&
-           req.Check(bytesInfo.WriteToParcel(data), "Write bytesInfo failed") && req.Send(Code::SEND_BYTES) &&
+           req.Check(bytesInfo.WriteToParcel(data), "Write bytesInfo failed") && req.SendAndLogExit(Code::SEND_BYTES) &&
            req.ReplyBool();
 }
 
@@ -219,7 +221,7 @@ bool ShareManagerSrvProxy::Cancel(const ShareDeviceInfo& deviceInfo)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("Cancel() Enter", "Cancel() Exit"));
     return Open(req) && req.Check(deviceInfo.WriteToParcel(req.Data()), WRITE_SHARE_DEVICE_FAILED) &&
-           req.Send(Code::CANCEL) && req.ReplyBool();
+           req.SendAndLogExit(Code::CANCEL) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::RegisterSenderActionCallback(const sptr<ISenderActionCallback>& callback)
@@ -228,7 +230,7 @@ bool ShareManagerSrvProxy::RegisterSenderActionCallback(const sptr<ISenderAction
                      Debug("RegisterSenderActionCallback() Enter", "RegisterSenderActionCallback() Exit"),
                      NullCallback(callback));
     return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) &&
-           req.Send(Code::REGISTER_SENDER_ACTION_CALLBACK) && req.ReplyBool();
+           req.SendAndLogExit(Code::REGISTER_SENDER_ACTION_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::UnRegisterSenderActionCallback(const sptr<ISenderActionCallback>& callback)
@@ -237,14 +239,14 @@ bool ShareManagerSrvProxy::UnRegisterSenderActionCallback(const sptr<ISenderActi
                      Debug("UnRegisterSenderActionCallback() Enter", "UnRegisterSenderActionCallback() Exit"),
                      NullCallback(callback));
     return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) &&
-           req.Send(Code::UNREGISTER_SENDER_ACTION_CALLBACK) && req.ReplyBool();
+           req.SendAndLogExit(Code::UNREGISTER_SENDER_ACTION_CALLBACK) && req.ReplyBool();
 }
 
 sptr<ZelkonReceiver> ShareManagerSrvProxy::GetReceiverActionCallback()
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      Debug("GetReceiverActionCallback() Enter", "GetReceiverActionCallback() Exit"));
-    if (!Open(req) || !req.Transact(Code::GET_RECEIVER_ACTION_CALLBACK)) {
+    if (!Open(req) || !req.SendWithoutExitLine(Code::GET_RECEIVER_ACTION_CALLBACK)) {
         return nullptr;
     }
     sptr<ZelkonReceiver> receiver = iface_cast<ZelkonReceiver>(req.Reply().ReadRemoteObject());
@@ -258,7 +260,7 @@ std::string ShareManagerSrvProxy::GetPreviewData()
 {
     std::string result;
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("GetPreviewData() Enter", "GetPreviewData() Exit"));
-    if (!Open(req) || !req.Transact(Code::GET_PREVIEW_DATA)) {
+    if (!Open(req) || !req.SendWithoutExitLine(Code::GET_PREVIEW_DATA)) {
         return result;
     }
     if (ReadBigString(req.Reply(), result)) {
@@ -275,7 +277,7 @@ ShareAccountInfo ShareManagerSrvProxy::GetAccountInfo()
     ShareAccountInfo account;
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("GetAccountInfo() Enter", "GetAccountInfo() Exit"));
     // A record that fails half way is returned as far as it was read.
-    if (Open(req) && req.Transact(Code::GET_ACCOUNT_INFO) &&
+    if (Open(req) && req.SendWithoutExitLine(Code::GET_ACCOUNT_INFO) &&
         req.Check(account.ReadFromParcel(req.Reply()), "Read share accout failed.")) {
         req.LogExit();
     }
@@ -286,70 +288,71 @@ bool ShareManagerSrvProxy::SetShareAccountPermission(int32_t permission)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      Debug("SetShareAccountPermission() Enter", "SetShareAccountPermission() Exit"));
-    return Open(req) && req.Put(permission) && req.Send(Code::SET_SHARE_ACCOUNT_PERMISSION) && req.ReplyBool();
+    return Open(req) && req.PutUnchecked(permission) && req.SendAndLogExit(Code::SET_SHARE_ACCOUNT_PERMISSION) &&
+           req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::RegisterVxShareApiWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO, NullCallback(callback));
     return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) &&
-           req.Send(Code::REGISTER_VX_SHARE_API_WIDGET_CALLBACK) && req.ReplyBool();
+           req.SendAndLogExit(Code::REGISTER_VX_SHARE_API_WIDGET_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::UnRegisterVxShareApiWidgetCallback(const sptr<ZelkonWidgetServiceCallback>& callback)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO, NullCallback(callback));
     return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) &&
-           req.Send(Code::UNREGISTER_VX_SHARE_API_WIDGET_CALLBACK) && req.ReplyBool();
+           req.SendAndLogExit(Code::UNREGISTER_VX_SHARE_API_WIDGET_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::RegisterVxShareApiEvent(const std::string& event)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO);
     return Open(req) && req.Check(req.Data().WriteString(event), WRITE_STRING_FAILED) &&
-           req.Send(Code::REGISTER_VX_SHARE_API_EVENT) && req.ReplyBool();
+           req.SendAndLogExit(Code::REGISTER_VX_SHARE_API_EVENT) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::UnRegisterVxShareApiEvent(const std::string& event)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO);
     return Open(req) && req.Check(req.Data().WriteString(event), WRITE_STRING_FAILED) &&
-           req.Send(Code::UNREGISTER_VX_SHARE_API_EVENT) && req.ReplyBool();
+           req.SendAndLogExit(Code::UNREGISTER_VX_SHARE_API_EVENT) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::NotifyInfo(const ShareDeviceInfo& deviceInfo, int32_t info)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("NotifyInfo() Enter", "NotifyInfo() Exit"));
-    return Open(req) && req.Check(deviceInfo.WriteToParcel(req.Data()), WRITE_SHARE_DEVICE_FAILED) && req.Put(info) &&
-           req.Send(Code::NOTIFY_INFO) && req.ReplyBool();
+    return Open(req) && req.Check(deviceInfo.WriteToParcel(req.Data()), WRITE_SHARE_DEVICE_FAILED) &&
+           req.PutUnchecked(info) && req.SendAndLogExit(Code::NOTIFY_INFO) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::ApplyUriPermission(const std::string& packageName)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("ApplyUriPermission() Enter", "ApplyUriPermission() Exit"));
     return Open(req) && req.Check(req.Data().WriteString(packageName), WRITE_PACKAGE_NAME_FAILED) &&
-           req.Send(Code::APPLY_URI_PERMISSION) && req.ReplyBool();
+           req.SendAndLogExit(Code::APPLY_URI_PERMISSION) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::SwingConfirm(const ShareDeviceInfo& deviceInfo, int32_t confirm)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("SwingConfirm() Enter", "SwingConfirm() Exit"));
     return Open(req) && req.Check(deviceInfo.WriteToParcel(req.Data()), WRITE_SHARE_DEVICE_FAILED) &&
-           req.Put(confirm) && req.Send(Code::SWING_CONFIRM) && req.ReplyBool();
+           req.PutUnchecked(confirm) && req.SendAndLogExit(Code::SWING_CONFIRM) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::IsAppForeground(const std::string& packageName)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, Debug("IsAppForeground() Enter", "IsAppForeground() Exit"));
     return Open(req) && req.Check(req.Data().WriteString(packageName), WRITE_PACKAGE_NAME_FAILED) &&
-           req.Send(Code::IS_APP_FOREGROUND) && req.ReplyBool();
+           req.SendAndLogExit(Code::IS_APP_FOREGROUND) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::RegisterShareApiCallback(const sptr<ZelkonApiCallback>& callback)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO, NullCallback(callback));
     return Open(req) && req.WriteObject(callback, WRITE_CALLBACK_FAILED) &&
-           req.Send(Code::REGISTER_SHARE_API_CALLBACK) && req.ReplyBool();
+           req.SendAndLogExit(Code::REGISTER_SHARE_API_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::UnregisterShareApiCallback(const sptr<ZelkonApiCallback>& callback)
@@ -360,20 +363,21 @@ bool ShareManagerSrvProxy::UnregisterShareApiCallback(const sptr<ZelkonApiCallba
     return Open(req) &&
            (callback != nullptr ? req.WriteObject(callback, WRITE_CALLBACK_FAILED)
                                 : req.Check(false, WRITE_CALLBACK_FAILED)) &&
-           req.Send(Code::UNREGISTER_SHARE_API_CALLBACK) && req.ReplyBool();
+           req.SendAndLogExit(Code::UNREGISTER_SHARE_API_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::RegisterShareEventCallback(int32_t eventType, int32_t eventId)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO);
-    return Open(req) && req.Put(eventType, eventId) && req.Send(Code::REGISTER_SHARE_EVENT_CALLBACK) && req.ReplyBool();
+    return Open(req) && req.PutUnchecked(eventType, eventId) &&
+           req.SendAndLogExit(Code::REGISTER_SHARE_EVENT_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::UnregisterShareEventCallback(int32_t eventType, int32_t eventId)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, BARE_INFO);
-    return Open(req) && req.Put(eventType, eventId) && req.Send(Code::UNREGISTER_SHARE_EVENT_CALLBACK) &&
-           req.ReplyBool();
+    return Open(req) && req.PutUnchecked(eventType, eventId) &&
+           req.SendAndLogExit(Code::UNREGISTER_SHARE_EVENT_CALLBACK) && req.ReplyBool();
 }
 
 bool ShareManagerSrvProxy::ReadBigString(MessageParcel& parcel, std::string& out) const

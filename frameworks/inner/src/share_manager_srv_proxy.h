@@ -79,12 +79,11 @@ public:
     // when the size word announces an empty string or the read fails.
     bool ReadBigString(MessageParcel& parcel, std::string& out) const;
 
-    // Reads a list reply (a count, then that many records): all of them or none. Failures are logged at the
-    // operation's site, named with the prefix when the operation names itself.
+    // Reads a list reply (a count, then that many records): all of them or none, where the share service's
+    // permanent device list keeps the records read before a malformed one. Failures are logged at the operation's
+    // site, named with the prefix when the operation names itself.
     static bool ReadDeviceList(MessageParcel& reply, std::vector<ShareDeviceInfo>& devices, const LogSite& site,
                                const char* prefix);
-
-    static constexpr int32_t MAX_DEVICE_COUNT = 1000;
 
 private:
     // Opens a request: remote check and interface token.

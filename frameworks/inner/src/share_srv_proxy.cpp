@@ -62,7 +62,7 @@ bool ShareSrvProxy::Open(ProxyRequest& request)
 int32_t ShareSrvProxy::PublishDevice(const sptr<IPublishListener>& listener)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, {"Publish() Enter", LOG_DEBUG, "Publish() Exit", LOG_DEBUG});
-    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::PUBLISH_DEVICE) &&
+    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.SendAndLogExit(Code::PUBLISH_DEVICE) &&
            req.ReplyBool();
 }
 
@@ -70,15 +70,16 @@ int32_t ShareSrvProxy::UnPublishDevice(int32_t publishId, const sptr<IPublishLis
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE, {"UnPublish() Enter", LOG_DEBUG, "UnPublish() Exit", LOG_DEBUG});
     return Open(req) && req.Check(req.Data().WriteInt32(publishId), "Write publishId failed") &&
-           req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::UNPUBLISH_DEVICE) && req.ReplyBool();
+           req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.SendAndLogExit(Code::UNPUBLISH_DEVICE) &&
+           req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::SubscribeDevice(const sptr<ISubscribeListener>& listener)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"SubscribeDevice() Enter", LOG_DEBUG, "SubscribeDevice() Exit", LOG_DEBUG});
-    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::SUBSCRIBE_DEVICE) &&
-           req.ReplyBool();
+    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) &&
+           req.SendAndLogExit(Code::SUBSCRIBE_DEVICE) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::UnSubscribeDevice(int32_t subscribeId, const sptr<ISubscribeListener>& listener)
@@ -86,15 +87,16 @@ int32_t ShareSrvProxy::UnSubscribeDevice(int32_t subscribeId, const sptr<ISubscr
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"UnSubscribeDevice() Enter", LOG_DEBUG, "UnSubscribeDevice() Exit", LOG_DEBUG});
     return Open(req) && req.Check(req.Data().WriteInt32(subscribeId), "Write subscribeId failed") &&
-           req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::UNSUBSCRIBE_DEVICE) && req.ReplyBool();
+           req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.SendAndLogExit(Code::UNSUBSCRIBE_DEVICE) &&
+           req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::RegisterReceiveListener(const sptr<ZelkonReceiveListener>& listener)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"RegisterReceiveListener() Enter", LOG_DEBUG, "RegisterReceiveListener() Exit", LOG_DEBUG});
-    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::REGISTER_RECEIVE_LISTENER) &&
-           req.ReplyBool();
+    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) &&
+           req.SendAndLogExit(Code::REGISTER_RECEIVE_LISTENER) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::UnRegisterReceiveListener(const sptr<ZelkonReceiveListener>& listener)
@@ -103,7 +105,7 @@ int32_t ShareSrvProxy::UnRegisterReceiveListener(const sptr<ZelkonReceiveListene
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"UnRegisterReceiveListener() Enter", LOG_DEBUG, "RegisterReceiveListener() Exit", LOG_DEBUG});
     return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) &&
-           req.Send(Code::UNREGISTER_RECEIVE_LISTENER) && req.ReplyBool();
+           req.SendAndLogExit(Code::UNREGISTER_RECEIVE_LISTENER) && req.ReplyBool();
 }
 
 bool ShareSrvProxy::WriteParcelForSend(const TransmitParam& param, const std::string& packageName, MessageParcel& data)
@@ -128,7 +130,7 @@ sptr<ZelkonSender> ShareSrvProxy::SendFileRequest(ProxyRequest& request, ZelkonS
 {
     if (!Open(request) ||
         !request.Check(WriteParcelForSend(param, packageName, request.Data()), "Write param failed.") ||
-        !request.Check(bean.WriteToParcel(request.Data()), beanFailure) || !request.Send(code)) {
+        !request.Check(bean.WriteToParcel(request.Data()), beanFailure) || !request.SendAndLogExit(code)) {
         return nullptr;
     }
     return ReadSender(request);
@@ -159,7 +161,7 @@ sptr<ZelkonSender> ShareSrvProxy::SendBytes(const TransmitParam& param, const By
     if (!Open(req) || !WriteDestination(data, param, req.Site()) ||
         !req.Check(bytesInfo.WriteToParcel(data), "Write BytesInfo failed.") ||
         !WriteTransCallback(data, param, req.Site()) || !WriteEventType(data, param, req.Site()) ||
-        !req.Transact(Code::SEND_BYTES)) {
+        !req.SendWithoutExitLine(Code::SEND_BYTES)) {
         return nullptr;
     }
     sptr<ZelkonSender> sender = ReadSender(req);
@@ -178,7 +180,7 @@ sptr<ZelkonSender> ShareSrvProxy::CommonShareSend(CommonShareObject& shareObject
     req.Data().SetMaxCapacity(COMMON_SHARE_CAPACITY);
     if (!req.WriteToken(GetDescriptor()) ||
         !req.Check(shareObject.WriteToParcel(req.Data()), "Write CommonShareObject failed.") ||
-        !req.WriteObject(callback, WRITE_CALLBACK_FAILED) || !req.Transact(Code::COMMON_SHARE_SEND)) {
+        !req.WriteObject(callback, WRITE_CALLBACK_FAILED) || !req.SendWithoutExitLine(Code::COMMON_SHARE_SEND)) {
         return nullptr;
     }
     return ReadSender(req);
@@ -192,7 +194,7 @@ void ShareSrvProxy::Cancel(std::string networkId)
     }
     // The cancel is attempted even when the network id could not be written.
     req.Check(req.Data().WriteString(networkId), "Write networkId failed.");
-    req.Transact(Code::CANCEL);
+    req.SendWithoutExitLine(Code::CANCEL);
 }
 
 int32_t ShareSrvProxy::EnableDiscoveryPolicy(int32_t policy)
@@ -200,7 +202,7 @@ int32_t ShareSrvProxy::EnableDiscoveryPolicy(int32_t policy)
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"EnableDiscoveryPolicy() Enter", LOG_DEBUG, "EnableDiscoveryPolicy() Exit", LOG_DEBUG});
     return Open(req) && req.Check(req.Data().WriteInt32(policy), WRITE_LISTENER_FAILED) &&
-           req.Send(Code::ENABLE_DISCOVERY_POLICY) && req.ReplyBool();
+           req.SendAndLogExit(Code::ENABLE_DISCOVERY_POLICY) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::SetAccountPermission(int32_t permission)
@@ -208,7 +210,7 @@ int32_t ShareSrvProxy::SetAccountPermission(int32_t permission)
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"SetAccountPermission() Enter", LOG_DEBUG, "SetAccountPermission() Exit", LOG_DEBUG});
     return Open(req) && req.Check(req.Data().WriteInt32(permission), WRITE_LISTENER_FAILED) &&
-           req.Send(Code::SET_ACCOUNT_PERMISSION) && req.ReplyBool();
+           req.SendAndLogExit(Code::SET_ACCOUNT_PERMISSION) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::RegisterCommonReceiveListener(const sptr<ICommonReceiveListener>& listener)
@@ -218,7 +220,7 @@ int32_t ShareSrvProxy::RegisterCommonReceiveListener(const sptr<ICommonReceiveLi
         {"RegisterCommonReceiveListener() Enter", LOG_DEBUG, "RegisterCommonReceiveListener() Exit", LOG_DEBUG});
     return req.HasRemote(Remote()) && req.Check(listener != nullptr, "listener return nullptr.") &&
            req.WriteToken(GetDescriptor()) && req.WriteObject(listener, WRITE_LISTENER_FAILED) &&
-           req.Send(Code::REGISTER_COMMON_RECEIVE_LISTENER) && req.ReplyBool();
+           req.SendAndLogExit(Code::REGISTER_COMMON_RECEIVE_LISTENER) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::UnRegisterCommonReceiveListener()
@@ -226,7 +228,7 @@ int32_t ShareSrvProxy::UnRegisterCommonReceiveListener()
     ProxyRequest req(
         PROXY_LABELS, SHARE_LOG_SITE,
         {"UnRegisterCommonReceiveListener() Enter", LOG_DEBUG, "UnRegisterCommonReceiveListener() Exit", LOG_DEBUG});
-    return Open(req) && req.Send(Code::UNREGISTER_COMMON_RECEIVE_LISTENER) && req.ReplyBool();
+    return Open(req) && req.SendAndLogExit(Code::UNREGISTER_COMMON_RECEIVE_LISTENER) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::SuspendWifiScanning(const std::string& ifName)
@@ -234,7 +236,7 @@ int32_t ShareSrvProxy::SuspendWifiScanning(const std::string& ifName)
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"SuspendWifiScanning() Enter", LOG_INFO, "SuspendWifiScanning() Exit", LOG_DEBUG});
     return Open(req) && req.Check(req.Data().WriteString(ifName), "Write ifName failed.") &&
-           req.Send(Code::SUSPEND_WIFI_SCANNING) && req.ReplyBool();
+           req.SendAndLogExit(Code::SUSPEND_WIFI_SCANNING) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::ResumeWifiScanning(const std::string& ifName)
@@ -242,7 +244,7 @@ int32_t ShareSrvProxy::ResumeWifiScanning(const std::string& ifName)
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"ResumeWifiScanning() Enter", LOG_INFO, "ResumeWifiScanning() Exit", LOG_DEBUG});
     return Open(req) && req.Check(req.Data().WriteString(ifName), "Write ifName failed.") &&
-           req.Send(Code::RESUME_WIFI_SCANNING) && req.ReplyBool();
+           req.SendAndLogExit(Code::RESUME_WIFI_SCANNING) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::OnCollabDeviceFound(const sptr<ShareDevice>& device, const sptr<ISubscribeListener>& listener,
@@ -255,7 +257,7 @@ int32_t ShareSrvProxy::OnCollabDeviceFound(const sptr<ShareDevice>& device, cons
            req.Check(req.Data().WriteStrongParcelable(sptr<Parcelable>(device)), "Write ShareDevice failed") &&
            req.WriteObject(listener, WRITE_LISTENER_FAILED) &&
            req.Check(req.Data().WriteInt32(static_cast<int32_t>(updateFlag)), "Write updateFlag failed") &&
-           req.Send(Code::ON_COLLAB_DEVICE_FOUND) && req.ReplyBool();
+           req.SendAndLogExit(Code::ON_COLLAB_DEVICE_FOUND) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::ClearDiscovererFlag(const std::string& deviceId, uint32_t flag)
@@ -264,14 +266,14 @@ int32_t ShareSrvProxy::ClearDiscovererFlag(const std::string& deviceId, uint32_t
                      {"ClearDiscovererFlag() Enter", LOG_INFO, "ClearDiscovererFlag() Exit", LOG_DEBUG});
     return Open(req) && req.Check(req.Data().WriteString(deviceId), "Write deviceId failed.") &&
            req.Check(req.Data().WriteUint32(flag), "Write discoverer flag failed.") &&
-           req.Send(Code::CLEAR_DISCOVERER_FLAG) && req.ReplyBool();
+           req.SendAndLogExit(Code::CLEAR_DISCOVERER_FLAG) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::GetPontalPublishInfo(std::string& publishInfo)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"GetPontalPublishInfo() Enter", LOG_INFO, "GetPontalPublishInfo() Exit", LOG_DEBUG});
-    if (!Open(req) || !req.Transact(Code::GET_PONTAL_PUBLISH_INFO)) {
+    if (!Open(req) || !req.SendWithoutExitLine(Code::GET_PONTAL_PUBLISH_INFO)) {
         return false;
     }
     // The string is handed over whatever the flag after it says.
@@ -287,14 +289,14 @@ int32_t ShareSrvProxy::ReportSwingEvent(int32_t gesture, int32_t x, int32_t y, s
     return Open(req) && req.Check(data.WriteInt32(gesture), "Write gesture failed.") &&
            req.Check(data.WriteInt32(x), "Write x failed.") && req.Check(data.WriteInt32(y), "Write y failed.") &&
            req.Check(data.WriteString(concurrentId), "Write concurrentId failed.") &&
-           req.Send(Code::REPORT_SWING_EVENT) && req.ReplyBool();
+           req.SendAndLogExit(Code::REPORT_SWING_EVENT) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::SwingSubscribe(const sptr<ISubscribeListener>& listener)
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"SwingSubscribe() Enter", LOG_DEBUG, "SwingSubscribe() Exit", LOG_DEBUG});
-    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::SWING_SUBSCRIBE) &&
+    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.SendAndLogExit(Code::SWING_SUBSCRIBE) &&
            req.ReplyBool();
 }
 
@@ -302,8 +304,8 @@ int32_t ShareSrvProxy::SwingUnSubscribe(const sptr<ISubscribeListener>& listener
 {
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"SwingUnSubscribe() Enter", LOG_DEBUG, "SwingUnSubscribe() Exit", LOG_DEBUG});
-    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) && req.Send(Code::SWING_UNSUBSCRIBE) &&
-           req.ReplyBool();
+    return Open(req) && req.WriteObject(listener, WRITE_LISTENER_FAILED) &&
+           req.SendAndLogExit(Code::SWING_UNSUBSCRIBE) && req.ReplyBool();
 }
 
 int32_t ShareSrvProxy::ApplyUriPermission(const std::string& deviceId)
@@ -311,7 +313,7 @@ int32_t ShareSrvProxy::ApplyUriPermission(const std::string& deviceId)
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"ApplyUriPermission() Enter", LOG_INFO, "ApplyUriPermission() Exit", LOG_INFO});
     return Open(req) && req.Check(req.Data().WriteString(deviceId), "Write deviceId failed.") &&
-           req.Send(Code::APPLY_URI_PERMISSION) && req.ReplyBool();
+           req.SendAndLogExit(Code::APPLY_URI_PERMISSION) && req.ReplyBool();
 }
 
 std::vector<PermanentDeviceInfo> ShareSrvProxy::GetPermanentDeviceList()
@@ -321,14 +323,17 @@ std::vector<PermanentDeviceInfo> ShareSrvProxy::GetPermanentDeviceList()
     if (!Open(req)) {
         return devices;
     }
-    // A failed send is only logged: the empty reply then fails at the counter.
-    req.Transact(Code::GET_PERMANENT_DEVICE_LIST);
+    // A failed send is only logged: the empty reply then fails at the counter, so that the counter line follows the
+    // send's, where the user lists stop at the send.
+    req.SendWithoutExitLine(Code::GET_PERMANENT_DEVICE_LIST);
     MessageParcel& reply = req.Reply();
     int32_t count = 0;
-    if (!reply.ReadInt32(count) || count > MAX_PERMANENT_DEVICES) {
+    if (!reply.ReadInt32(count) || count > ProxyRequest::MAX_LIST_RECORDS) {
         SHARE_PROXY_LOGE("GetPermanentDeviceList Read device counter failed %{public}d.", count);
         return devices;
     }
+    // A malformed record ends the list: the devices read before it are returned, as ShareClient promises, where the
+    // user lists give all or nothing.
     for (int32_t i = 0; i < count; ++i) {
         PermanentDeviceInfo device;
         if (!device.ReadFromParcel(reply)) {
@@ -346,7 +351,7 @@ int32_t ShareSrvProxy::RemovePermanentDeviceById(int32_t id)
     ProxyRequest req(PROXY_LABELS, SHARE_LOG_SITE,
                      {"RemovePermanentDeviceById() Enter", LOG_INFO, "RemovePermanentDeviceById() Exit", LOG_DEBUG});
     return Open(req) && req.Check(req.Data().WriteInt32(id), "Write permanent device id failed.") &&
-           req.Send(Code::REMOVE_PERMANENT_DEVICE_BY_ID) && req.ReplyBool();
+           req.SendAndLogExit(Code::REMOVE_PERMANENT_DEVICE_BY_ID) && req.ReplyBool();
 }
 
 } // namespace Zelkon

@@ -70,7 +70,6 @@ public:
     // The transfer parameters of both SendFile requests, with the package name between callback and event type.
     bool WriteParcelForSend(const TransmitParam& param, const std::string& packageName, MessageParcel& data);
 
-    static constexpr int32_t MAX_PERMANENT_DEVICES = 1000;
     static constexpr size_t COMMON_SHARE_CAPACITY = 4194304;
 
 private:

@@ -28,7 +28,7 @@ namespace {
 TEST(EmulatedWorldTest, ReadsBackWhatItWrites)
 {
     EmulatedWorld changed = EmulatedWorld::BuiltIn();
-    changed.users[1].contact.name = "Kim";
+    changed.users[1].contactInfo.contactName = "Kim";
     changed.users[1].deviceFounder = UINT32_MAX;
     changed.permanentDevices.pop_back();
     changed.sharingSwitch = {false, -7};

@@ -26,11 +26,13 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <map>
 #include <ostream>
 #include <regex>
 #include <sstream>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -111,7 +113,7 @@ const std::vector<Case> CASES = {
     {"ListQualifiesSharedNames", "list", "", 0, "share      8  share.SendFile.DataBean"},
     {"ListAsJson", "--json list", "", 0, R"("name": "manager.Cancel")"},
     {"Describe", "describe manager.Cancel", "", 0,
-     "  request    the interface token, then deviceInfo: ShareDeviceInfo, its 19 fields"},
+     "  request    the interface token, then deviceInfo: ShareDeviceInfo (its 19 fields"},
     {"DescribeListener", "describe UnPublish", "", 0, "    listener  IPublishListener: a local stub"},
     {"DescribeUnknown", "describe Nope", "", 2, "unknown operation 'Nope'"},
     {"SharedNameNeedsItsService", "call Cancel", "", 2, "say which, share.Cancel, manager.Cancel"},
@@ -126,6 +128,8 @@ const std::vector<Case> CASES = {
      "PrepareSend -> false (no or refused"},
     {"CallExplainsTheState", "call GetEnableState", "", 0, "GetEnableState -> 1 (the state last given"},
     {"CallOutParameter", "call GetPontalPublishInfo", "", 0, R"(  "publishInfo": "{\"deviceName\")"},
+    {"CallExplainsAnAccountWithoutUid", "--world /dev/stdin call GetAccountInfo", R"({"account": {"callingUid": -1}})",
+     0, "GetAccountInfo -> the record as the library constructs it"},
     {"CallAsJson", "--json call IsEnabled", "", 0, R"("result": true)"},
     {"CallUnknownArgument", "call RemovePermanentDeviceById ident=2", "", 2, "has no argument 'ident'"},
     {"CallUnknownField", R"(call PrepareSend deviceInfo='{"colour":1}')", "", 2, "deviceInfo.colour: unknown field"},
@@ -189,16 +193,47 @@ TEST_P(SharectlTest, PrintsWhatItDidAndSaysSoInItsExitStatus)
 INSTANTIATE_TEST_SUITE_P(Invocations, SharectlTest, testing::ValuesIn(CASES),
                          [](const testing::TestParamInfo<Case>& info) { return info.param.name; });
 
-TEST(SharectlCatalogTest, EveryListedOperationCanBeCalledWithItsDefaults)
+// What an operation needs before it sends anything: a descriptor for its DataBean, a device that can collaborate.
+const std::map<std::string, std::string> SENDING_ARGUMENTS = {
+    {"share.SendFile.DataBean", R"(dataBean='{"fd":3}' 3</dev/null)"},
+    {"manager.SendFile", R"(dataBean='{"fd":3}' 3</dev/null)"},
+    {"OnCollabDeviceFound", R"(device='{"nbVersion_":9}')"},
+};
+
+// The service and request code that the emulator traced, one pair per request.
+std::vector<std::pair<std::string, int>> TracedRequests(const std::string& output)
 {
-    std::istringstream list(RunSharectl("list").output);
+    std::vector<std::pair<std::string, int>> requests;
+    const std::regex request("^  >> (\\S+) code ([0-9]+) ");
+    std::istringstream lines(output);
     std::string line;
+    std::smatch match;
+    while (std::getline(lines, line)) {
+        if (std::regex_search(line, match, request)) {
+            requests.emplace_back(match[1], std::stoi(match[2]));
+        }
+    }
+    return requests;
+}
+
+// The codes of the table are what list, describe and call print: each must be the code that the request carries.
+TEST(SharectlCatalogTest, EveryListedOperationSendsOneRequestWithItsListedCode)
+{
+    const std::map<std::string, std::string> tracedService = {{"share", "ShareService"}, {"manager", "ShareManager"}};
+    std::istringstream list(RunSharectl("list").output);
+    std::string service;
+    int code = 0;
+    std::string name;
     int operations = 0;
-    while (std::getline(list, line) && line.rfind("(", 0) != 0) {
-        const std::string name = line.substr(line.find_last_of(' ') + 1);
-        const Outcome call = RunSharectl("call " + name);
+    while (list >> service >> code >> name) {
+        SCOPED_TRACE(name);
+        const auto arguments = SENDING_ARGUMENTS.find(name);
+        const Outcome call =
+            RunSharectl("--trace call " + name + " " + (arguments != SENDING_ARGUMENTS.end() ? arguments->second : ""));
         EXPECT_EQ(call.status, 0) << call.output;
         EXPECT_NE(call.output.find(name + " ->"), std::string::npos) << call.output;
+        const std::vector<std::pair<std::string, int>> expected = {{tracedService.at(service), code}};
+        EXPECT_EQ(TracedRequests(call.output), expected) << call.output;
         ++operations;
     }
     EXPECT_EQ(operations, 26 + 36);

@@ -16,10 +16,15 @@
 /*
  * The JSON field lists of the emulator's records, for the world file and the state dump. Keys are the field names
  * of the records as the services' interfaces name them, so that a user in a world file reads like the device
- * record an application passes.
+ * record an application passes. The lists of the records that the library holds too (a contact, a user, a permanent
+ * device, an account) are written for any record with the same members: sharectl's own records of the library take
+ * them, and the emulator stays free of the library's types.
  */
 #ifndef EMULATED_RECORD_FIELDS_H
 #define EMULATED_RECORD_FIELDS_H
+
+#include <type_traits>
+#include <utility>
 
 #include "emulated_records.h"
 #include "emulated_world.h"
@@ -27,16 +32,24 @@
 namespace OHOS {
 namespace Zelkon {
 
-template <typename Visitor>
-void VisitFields(Visitor& visitor, ContactEntry& contact)
+// The emulated record whose field list a record takes: its own type's by default. Another side declares an overload
+// for each of its records that takes one ("ContactEntry FieldListOf(const ContactInfo&);").
+template <typename Record>
+Record FieldListOf(const Record&);
+
+template <typename Record, typename Emulated>
+using IfFieldListOf = std::enable_if_t<std::is_same_v<decltype(FieldListOf(std::declval<const Record&>())), Emulated>>;
+
+template <typename Visitor, typename Contact>
+IfFieldListOf<Contact, ContactEntry> VisitFields(Visitor& visitor, Contact& contact)
 {
-    visitor.Field("contactKind", contact.kind);
-    visitor.Field("contactName", contact.name);
-    visitor.Field("contactPhoto", contact.photo);
+    visitor.Field("contactKind", contact.contactKind);
+    visitor.Field("contactName", contact.contactName);
+    visitor.Field("contactPhoto", contact.contactPhoto);
 }
 
-template <typename Visitor>
-void VisitFields(Visitor& visitor, UserEntry& user)
+template <typename Visitor, typename User>
+IfFieldListOf<User, UserEntry> VisitFields(Visitor& visitor, User& user)
 {
     visitor.Field("deviceName", user.deviceName);
     visitor.Field("norvaneIdName", user.norvaneIdName);
@@ -52,15 +65,15 @@ void VisitFields(Visitor& visitor, UserEntry& user)
     visitor.Field("nearbyVersion", user.nearbyVersion);
     visitor.Field("lastSharedTime", user.lastSharedTime);
     visitor.Field("isSameAccount", user.isSameAccount);
-    visitor.Field("contactInfo", user.contact);
+    visitor.Field("contactInfo", user.contactInfo);
     visitor.Field("isOHDevice", user.isOHDevice);
     visitor.Field("deviceFounder", user.deviceFounder);
     visitor.Field("concurentId", user.concurentId);
     visitor.Field("extraValue", user.extraValue);
 }
 
-template <typename Visitor>
-void VisitFields(Visitor& visitor, PermanentEntry& device)
+template <typename Visitor, typename Permanent>
+IfFieldListOf<Permanent, PermanentEntry> VisitFields(Visitor& visitor, Permanent& device)
 {
     visitor.Field("id", device.id);
     visitor.Field("deviceName", device.deviceName);
@@ -69,11 +82,11 @@ void VisitFields(Visitor& visitor, PermanentEntry& device)
     visitor.Field("timestamp", device.timestamp);
 }
 
-template <typename Visitor>
-void VisitFields(Visitor& visitor, AccountEntry& account)
+template <typename Visitor, typename Account>
+IfFieldListOf<Account, AccountEntry> VisitFields(Visitor& visitor, Account& account)
 {
-    visitor.Field("norvaneAccountID", account.accountId);
-    visitor.Field("norvaneAccountIDHash", account.accountIdHash);
+    visitor.Field("norvaneAccountID", account.norvaneAccountID);
+    visitor.Field("norvaneAccountIDHash", account.norvaneAccountIDHash);
     visitor.Field("status", account.status);
     visitor.Field("callingUid", account.callingUid);
     visitor.Field("nickName", account.nickName);
