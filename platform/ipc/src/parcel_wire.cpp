@@ -18,6 +18,7 @@
 #include "export_table.h"
 #include "ipc_log.h"
 #include "parcel_records.h"
+#include "unique_fd.h"
 
 namespace OHOS {
 namespace {
