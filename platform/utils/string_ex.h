@@ -20,7 +20,9 @@
 
 namespace OHOS {
 
-// UTF-8 to UTF-16 and back; malformed input gives an empty string, as on the platform.
+// UTF-8 to UTF-16 and back, as the platform converts: the result ends at the first NUL. UTF-8 continuation bytes
+// are not checked (encoded surrogates and overlong forms decode); only a sequence cut off by the end of the input
+// gives an empty string. A UTF-16 surrogate without its pair is left out.
 std::u16string Str8ToStr16(const std::string& str);
 std::string Str16ToStr8(const std::u16string& str16);
 
