@@ -13,8 +13,8 @@
  * limitations under the License.
  */
 
-#ifndef UTILS_STRING_EX_H
-#define UTILS_STRING_EX_H
+#ifndef STRING_EX_H
+#define STRING_EX_H
 
 #include <string>
 
@@ -28,4 +28,4 @@ std::string Str16ToStr8(const std::u16string& str16);
 
 } // namespace OHOS
 
-#endif // UTILS_STRING_EX_H
+#endif // STRING_EX_H
