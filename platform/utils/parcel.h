@@ -195,6 +195,7 @@ private:
     void* Reallocate(size_t newCapacity);
     bool EnsureWritableCapacity(size_t desiredBytes);
     size_t CalcNewCapacity(size_t minNewCapacity) const;
+    bool IsObjectOffset(binder_size_t offset) const;
     bool ValidateReadData(size_t upperBound);
     template <typename Str>
     bool WriteText(const Str& value, size_t maxLength);
@@ -212,6 +213,7 @@ private:
     std::vector<binder_size_t> objectOffsets_;
     // Room made by EnsureObjectsCapacity; a rewind that drops records shrinks it to what is left.
     size_t objectsCapacity_ = 0;
+    bool offsetsAscending_ = true;
     // The first record a forward read has not passed yet.
     size_t nextObjectIdx_ = 0;
     std::vector<sptr<Parcelable>> objectHolder_;

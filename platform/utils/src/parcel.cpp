@@ -163,20 +163,26 @@ bool Parcel::EnsureObjectsCapacity()
 bool Parcel::WriteObjectOffset(binder_size_t offset)
 {
     // Without the room EnsureObjectsCapacity makes, the device's parcel would write past its array.
-    if (offset > dataSize_ || objectOffsets_.size() >= objectsCapacity_ ||
-        std::find(objectOffsets_.begin(), objectOffsets_.end(), offset) != objectOffsets_.end()) {
+    if (offset > dataSize_ || objectOffsets_.size() >= objectsCapacity_ || IsObjectOffset(offset)) {
         return false;
     }
+    offsetsAscending_ = offsetsAscending_ && (objectOffsets_.empty() || offset > objectOffsets_.back());
     objectOffsets_.push_back(offset);
     return true;
 }
 
+// Records are written in ascending order, and then a peer's many records cost a search by halves each, not a scan.
+bool Parcel::IsObjectOffset(binder_size_t offset) const
+{
+    if (offsetsAscending_) {
+        return std::binary_search(objectOffsets_.begin(), objectOffsets_.end(), offset);
+    }
+    return std::find(objectOffsets_.begin(), objectOffsets_.end(), offset) != objectOffsets_.end();
+}
+
 bool Parcel::CheckOffsets()
 {
-    if (readCursor_ + OBJECT_SIZE > dataSize_) {
-        return false;
-    }
-    return std::find(objectOffsets_.begin(), objectOffsets_.end(), readCursor_) != objectOffsets_.end();
+    return readCursor_ + OBJECT_SIZE <= dataSize_ && IsObjectOffset(readCursor_);
 }
 
 // Records are checked in the order written, from the first one that the reads have not passed yet: a read of
@@ -221,6 +227,7 @@ bool Parcel::RewindWrite(size_t offsets)
     if (kept < objectOffsets_.size()) {
         objectOffsets_.resize(kept);
         objectsCapacity_ = kept;
+        offsetsAscending_ = offsetsAscending_ || kept == 0;
         objectHolder_.resize(std::min(objectHolder_.size(), kept));
         nextObjectIdx_ = 0;
     }

@@ -163,16 +163,22 @@ TEST(ParcelRulesTest, PlainReadsMayNotTakeAByteOfAnObjectRecord)
 TEST(ParcelRulesTest, AnObjectOffsetIsRecordedOnceWithinTheDataInTheRoomMadeForIt)
 {
     RecordingParcel parcel;
-    ASSERT_TRUE(parcel.WriteInt64(0) && parcel.WriteInt64(0));
+    const std::vector<uint8_t> data(48, 0);
+    ASSERT_TRUE(parcel.WriteBuffer(data.data(), data.size()));
     EXPECT_FALSE(parcel.WriteObjectOffset(0));
     ASSERT_TRUE(parcel.EnsureObjectsCapacity());
     EXPECT_TRUE(parcel.WriteObjectOffset(8));
     EXPECT_FALSE(parcel.WriteObjectOffset(8));
-    EXPECT_FALSE(parcel.WriteObjectOffset(20));
+    EXPECT_FALSE(parcel.WriteObjectOffset(52));
     EXPECT_TRUE(parcel.WriteObjectOffset(16));
-    ASSERT_EQ(parcel.GetOffsetsSize(), 2u);
+    EXPECT_TRUE(parcel.WriteObjectOffset(0));
+    ASSERT_TRUE(parcel.EnsureObjectsCapacity());
+    EXPECT_FALSE(parcel.WriteObjectOffset(16));
+    ASSERT_EQ(parcel.GetOffsetsSize(), 3u);
     const auto* offsets = reinterpret_cast<const binder_size_t*>(static_cast<uintptr_t>(parcel.GetObjectOffsets()));
-    EXPECT_EQ(std::vector<binder_size_t>(offsets, offsets + 2), (std::vector<binder_size_t>{8, 16}));
+    EXPECT_EQ(std::vector<binder_size_t>(offsets, offsets + 3), (std::vector<binder_size_t>{8, 16, 0}));
+    EXPECT_TRUE(parcel.RewindRead(0) && parcel.CheckOffsets());
+    EXPECT_FALSE(parcel.RewindRead(4) && parcel.CheckOffsets());
 }
 
 // Doubling from 64 bytes up to 4 KiB, then steps of 4 KiB up to the maximum.
