@@ -73,7 +73,7 @@ int RefCounter::DecStrongRefCount(const void*)
     int previous = atomicStrong_.load(std::memory_order_relaxed);
     // Never strongly held: there is nothing to release.
     if (previous > 0 && previous != INITIAL_PRIMARY_VALUE) {
-        previous = atomicStrong_.fetch_sub(1, std::memory_order_release);
+        previous = atomicStrong_.fetch_sub(1, std::memory_order_acq_rel);
     }
     return previous;
 }
@@ -92,12 +92,11 @@ int RefCounter::DecWeakRefCount(const void*)
 {
     int previous = atomicWeak_.load(std::memory_order_relaxed);
     if (previous > 0) {
-        previous = atomicWeak_.fetch_sub(1, std::memory_order_release);
+        previous = atomicWeak_.fetch_sub(1, std::memory_order_acq_rel);
     }
     if (previous != 1) {
         return previous;
     }
-    std::atomic_thread_fence(std::memory_order_acquire);
     // The last weak reference: an object that outlives its strong references, or never had one, goes now (and
     // lets go of the counter in its destructor); otherwise the object is already gone and only the counter is left.
     if (IsLifeTimeExtended() || GetStrongRefCount() == INITIAL_PRIMARY_VALUE) {
@@ -272,7 +271,6 @@ void RefBase::DecStrongRef(const void* objectId)
     // The object may be deleted below; the counter outlives it until the last weak reference.
     RefCounter* const refs = GetRefCounter();
     if (refs->DecStrongRefCount(objectId) == 1) {
-        std::atomic_thread_fence(std::memory_order_acquire);
         OnLastStrongRef(objectId);
         if (!refs->IsLifeTimeExtended()) {
             refs->DeleteObject();
