@@ -23,6 +23,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -83,7 +84,7 @@ public:
     uintptr_t GetData() const { return reinterpret_cast<uintptr_t>(data_); }
     // The address of the array of object record offsets, GetOffsetsSize() of them, in the order written.
     binder_size_t GetObjectOffsets() const;
-    size_t GetOffsetsSize() const { return objectOffsets_.size(); }
+    size_t GetOffsetsSize() const { return objects_ != nullptr ? objects_->offsets.size() : 0; }
     size_t GetWritableBytes() const { return capacity_ > writeCursor_ ? capacity_ - writeCursor_ : 0; }
     // The read position may pass the data size (SkipBytes past the end puts it at the capacity): nothing is left.
     size_t GetReadableBytes() const { return dataSize_ > readCursor_ ? dataSize_ - readCursor_ : 0; }
@@ -183,6 +184,16 @@ protected:
     bool WriteObjectOffset(binder_size_t offset);
 
 private:
+    struct ObjectRecords {
+        std::vector<binder_size_t> offsets;
+        // Room made by EnsureObjectsCapacity; a rewind that drops records shrinks it to what is left.
+        size_t capacity = 0;
+        bool ascending = true;
+        // The first record a forward read has not passed yet.
+        size_t nextIndex = 0;
+        std::vector<sptr<Parcelable>> holder;
+    };
+
     template <typename T>
     bool Write(T value);
     template <typename T>
@@ -210,13 +221,8 @@ private:
     size_t dataSize_ = 0;
     size_t writeCursor_ = 0;
     size_t readCursor_ = 0;
-    std::vector<binder_size_t> objectOffsets_;
-    // Room made by EnsureObjectsCapacity; a rewind that drops records shrinks it to what is left.
-    size_t objectsCapacity_ = 0;
-    bool offsetsAscending_ = true;
-    // The first record a forward read has not passed yet.
-    size_t nextObjectIdx_ = 0;
-    std::vector<sptr<Parcelable>> objectHolder_;
+    // Made by the first EnsureObjectsCapacity: most parcels carry no object record and pay nothing for them.
+    std::unique_ptr<ObjectRecords> objects_;
 };
 
 } // namespace OHOS

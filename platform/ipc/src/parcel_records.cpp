@@ -40,6 +40,9 @@ void CloseAll(const std::vector<ParcelRecord>& records)
 std::vector<ParcelRecord> ParcelRecords::Of(const MessageParcel& parcel)
 {
     std::vector<ParcelRecord> records;
+    if (parcel.GetOffsetsSize() == 0) {
+        return records;
+    }
     const auto* offsets = reinterpret_cast<const binder_size_t*>(static_cast<uintptr_t>(parcel.GetObjectOffsets()));
     for (size_t i = 0; i < parcel.GetOffsetsSize(); ++i) {
         auto carried = parcel.carried_.find(offsets[i]);

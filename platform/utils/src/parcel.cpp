@@ -16,10 +16,9 @@
 #include "parcel.h"
 
 #include <algorithm>
-#include <climits>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
-#include <utility>
 
 namespace OHOS {
 namespace {
@@ -76,7 +75,7 @@ void* Parcel::Reallocate(size_t newCapacity)
 
 binder_size_t Parcel::GetObjectOffsets() const
 {
-    return objectsCapacity_ == 0 ? 0 : reinterpret_cast<uintptr_t>(objectOffsets_.data());
+    return objects_ == nullptr || objects_->capacity == 0 ? 0 : reinterpret_cast<uintptr_t>(objects_->offsets.data());
 }
 
 bool Parcel::SetMaxCapacity(size_t newMaxCapacity)
@@ -152,32 +151,41 @@ bool Parcel::EnsureWritableCapacity(size_t desiredBytes)
 
 bool Parcel::EnsureObjectsCapacity()
 {
-    if (objectsCapacity_ > objectOffsets_.size()) {
+    if (objects_ == nullptr) {
+        objects_ = std::make_unique<ObjectRecords>();
+    }
+    if (objects_->capacity > objects_->offsets.size()) {
         return true;
     }
-    objectsCapacity_ = (objectsCapacity_ + 2) * 3 / 2;
-    objectOffsets_.reserve(objectsCapacity_);
+    objects_->capacity = (objects_->capacity + 2) * 3 / 2;
+    objects_->offsets.reserve(objects_->capacity);
     return true;
 }
 
 bool Parcel::WriteObjectOffset(binder_size_t offset)
 {
     // Without the room EnsureObjectsCapacity makes, the device's parcel would write past its array.
-    if (offset > dataSize_ || objectOffsets_.size() >= objectsCapacity_ || IsObjectOffset(offset)) {
+    if (offset > dataSize_ || GetOffsetsSize() >= (objects_ != nullptr ? objects_->capacity : 0) ||
+        IsObjectOffset(offset)) {
         return false;
     }
-    offsetsAscending_ = offsetsAscending_ && (objectOffsets_.empty() || offset > objectOffsets_.back());
-    objectOffsets_.push_back(offset);
+    std::vector<binder_size_t>& offsets = objects_->offsets;
+    objects_->ascending = objects_->ascending && (offsets.empty() || offset > offsets.back());
+    offsets.push_back(offset);
     return true;
 }
 
 // Records are written in ascending order, and then a peer's many records cost a search by halves each, not a scan.
 bool Parcel::IsObjectOffset(binder_size_t offset) const
 {
-    if (offsetsAscending_) {
-        return std::binary_search(objectOffsets_.begin(), objectOffsets_.end(), offset);
+    if (objects_ == nullptr) {
+        return false;
     }
-    return std::find(objectOffsets_.begin(), objectOffsets_.end(), offset) != objectOffsets_.end();
+    const std::vector<binder_size_t>& offsets = objects_->offsets;
+    if (objects_->ascending) {
+        return std::binary_search(offsets.begin(), offsets.end(), offset);
+    }
+    return std::find(offsets.begin(), offsets.end(), offset) != offsets.end();
 }
 
 bool Parcel::CheckOffsets()
@@ -189,17 +197,21 @@ bool Parcel::CheckOffsets()
 // [readCursor_, upperBound) fails if it takes a byte of one.
 bool Parcel::ValidateReadData(size_t upperBound)
 {
-    size_t next = nextObjectIdx_;
-    if (next >= objectOffsets_.size() || upperBound <= objectOffsets_[next]) {
+    if (objects_ == nullptr) {
+        return true;
+    }
+    const std::vector<binder_size_t>& offsets = objects_->offsets;
+    size_t next = objects_->nextIndex;
+    if (next >= offsets.size() || upperBound <= offsets[next]) {
         return true;
     }
     do {
-        if (readCursor_ < objectOffsets_[next] + OBJECT_SIZE) {
+        if (readCursor_ < offsets[next] + OBJECT_SIZE) {
             return false;
         }
         ++next;
-    } while (next < objectOffsets_.size() && upperBound > objectOffsets_[next]);
-    nextObjectIdx_ = next;
+    } while (next < offsets.size() && upperBound > offsets[next]);
+    objects_->nextIndex = next;
     return true;
 }
 
@@ -209,7 +221,9 @@ bool Parcel::RewindRead(size_t newPosition)
         return false;
     }
     readCursor_ = newPosition;
-    nextObjectIdx_ = 0;
+    if (objects_ != nullptr) {
+        objects_->nextIndex = 0;
+    }
     return true;
 }
 
@@ -220,16 +234,20 @@ bool Parcel::RewindWrite(size_t offsets)
     }
     writeCursor_ = offsets;
     dataSize_ = offsets;
-    size_t kept = objectOffsets_.size();
-    while (kept > 0 && objectOffsets_[kept - 1] + OBJECT_SIZE > offsets) {
+    size_t kept = GetOffsetsSize();
+    while (kept > 0 && objects_->offsets[kept - 1] + OBJECT_SIZE > offsets) {
         --kept;
     }
-    if (kept < objectOffsets_.size()) {
-        objectOffsets_.resize(kept);
-        objectsCapacity_ = kept;
-        offsetsAscending_ = offsetsAscending_ || kept == 0;
-        objectHolder_.resize(std::min(objectHolder_.size(), kept));
-        nextObjectIdx_ = 0;
+    if (kept == GetOffsetsSize()) {
+        return true;
+    }
+    if (kept == 0) {
+        objects_.reset();
+    } else {
+        objects_->offsets.resize(kept);
+        objects_->capacity = kept;
+        objects_->holder.resize(std::min(objects_->holder.size(), kept));
+        objects_->nextIndex = 0;
     }
     return true;
 }
@@ -387,7 +405,7 @@ bool Parcel::WriteRemoteObject(const Parcelable* object)
     // The marshalling may have recorded its record itself; a second offset at the same place is refused.
     (void)WriteObjectOffset(start);
     if (object->TestBehavior(Parcelable::BehaviorFlag::HOLD_OBJECT)) {
-        objectHolder_.emplace_back(const_cast<Parcelable*>(object));
+        objects_->holder.emplace_back(const_cast<Parcelable*>(object));
     }
     return true;
 }
