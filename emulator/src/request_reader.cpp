@@ -115,7 +115,7 @@ bool RequestReader::FileDescriptor(const char* field, UniqueFd& fd)
     if (failed_) {
         return false;
     }
-    fd.Reset(data_.ReadFileDescriptor());
+    fd = UniqueFd(data_.ReadFileDescriptor());
     if (fd.Get() < 0) {
         return Fail(field, "no file descriptor");
     }

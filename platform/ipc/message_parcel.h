@@ -77,6 +77,8 @@ private:
     };
 
     bool WriteRecord(uint32_t type, uint64_t value, const Carried& carried);
+    // What the record at offset carries; it replaces what a record dropped there carried.
+    void Carry(size_t offset, Carried carried);
     const Carried* CarriedAtReadPosition(CarriedKind kind);
     bool WriteSharedMemoryBlock(const void* data, size_t size);
     const void* MapSharedMemoryBlock(size_t size);

@@ -13,8 +13,8 @@
  * limitations under the License.
  */
 
-#ifndef UTILS_ERRORS_H
-#define UTILS_ERRORS_H
+#ifndef UTILS_BASE_ERRORS_H
+#define UTILS_BASE_ERRORS_H
 
 #include <cerrno>
 
@@ -33,4 +33,4 @@ enum {
 
 } // namespace OHOS
 
-#endif // UTILS_ERRORS_H
+#endif // UTILS_BASE_ERRORS_H

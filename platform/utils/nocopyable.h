@@ -13,8 +13,8 @@
  * limitations under the License.
  */
 
-#ifndef UTILS_NOCOPYABLE_H
-#define UTILS_NOCOPYABLE_H
+#ifndef UTILS_BASE_NOCOPYABLE_H
+#define UTILS_BASE_NOCOPYABLE_H
 
 namespace OHOS {
 
@@ -43,4 +43,4 @@ private:
 
 } // namespace OHOS
 
-#endif // UTILS_NOCOPYABLE_H
+#endif // UTILS_BASE_NOCOPYABLE_H

@@ -14,18 +14,20 @@
  */
 
 /*
- * The platform's parcel: a growable byte buffer with independent write and read cursors, 4-byte words,
- * padded strings and buffers, and a maximum capacity that only ever rises.
+ * The platform's parcel: a growable byte buffer with independent write and read cursors, 4-byte words, padded
+ * strings and buffers, a maximum capacity that only ever rises, and the offsets of the object records it carries
+ * (no plain read may take a byte of one).
  */
-#ifndef UTILS_PARCEL_H
-#define UTILS_PARCEL_H
+#ifndef OHOS_UTILS_PARCEL_H
+#define OHOS_UTILS_PARCEL_H
 
 #include <cstddef>
 #include <cstdint>
-#include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "flat_obj.h"
 #include "nocopyable.h"
 #include "refbase.h"
 
@@ -51,10 +53,22 @@ public:
     mutable uint8_t behavior_ = 0;
 };
 
-// Where a parcel's memory comes from; the host parcel always uses the heap.
+// Where a parcel's memory comes from. A parcel owns the allocator it is given and deletes it.
 class Allocator {
 public:
     virtual ~Allocator() = default;
+    virtual void* Realloc(void* data, size_t newSize) = 0;
+    virtual void* Alloc(size_t size) = 0;
+    virtual void Dealloc(void* data) = 0;
+};
+
+class DefaultAllocator : public Allocator {
+public:
+    void* Alloc(size_t size) override;
+    void Dealloc(void* data) override;
+
+private:
+    void* Realloc(void* data, size_t newSize) override;
 };
 
 class Parcel {
@@ -68,19 +82,26 @@ public:
 
     size_t GetDataSize() const { return dataSize_; }
     uintptr_t GetData() const { return reinterpret_cast<uintptr_t>(data_); }
+    // The address of the array of object record offsets, GetOffsetsSize() of them, in the order written.
+    binder_size_t GetObjectOffsets() const;
+    size_t GetOffsetsSize() const { return objects_ != nullptr ? objects_->offsets.size() : 0; }
+    size_t GetWritableBytes() const { return capacity_ > writeCursor_ ? capacity_ - writeCursor_ : 0; }
+    // The read position may pass the data size (SkipBytes past the end puts it at the capacity): nothing is left.
+    size_t GetReadableBytes() const { return dataSize_ > readCursor_ ? dataSize_ - readCursor_ : 0; }
     size_t GetDataCapacity() const { return capacity_; }
     size_t GetMaxCapacity() const { return maxCapacity_; }
-    size_t GetWritableBytes() const { return capacity_ - writeCursor_; }
-    size_t GetReadableBytes() const { return dataSize_ - readCursor_; }
     size_t GetReadPosition() { return readCursor_; }
     size_t GetWritePosition() { return writeCursor_; }
 
     // Raises the maximum capacity; a value not above the current one is refused.
     bool SetMaxCapacity(size_t newMaxCapacity);
+    // Only above the data size.
     bool SetDataCapacity(size_t newCapacity);
     bool SetDataSize(size_t dataSize);
     bool RewindRead(size_t newPosition);
+    // Drops the object records that end past the new position; the read position stays where it is.
     bool RewindWrite(size_t offsets);
+    // Not rounded up to a word; past the data the read position goes to the capacity.
     void SkipBytes(size_t bytes);
 
     bool WriteBool(bool value);
@@ -103,7 +124,10 @@ public:
     bool WriteString16Vector(const std::vector<std::u16string>& values);
     bool WriteParcelable(const Parcelable* object);
     bool WriteStrongParcelable(const sptr<Parcelable>& object);
+    // Marshals a remote object and records its offset; the parcel holds it if it asks to be held.
+    bool WriteRemoteObject(const Parcelable* object);
 
+    // A refused primitive read still moves the read position past the bytes it refused.
     bool ReadBool();
     bool ReadBool(bool& value);
     int8_t ReadInt8();
@@ -130,12 +154,17 @@ public:
     const uint8_t* ReadBuffer(size_t length);
     const uint8_t* ReadUnpadBuffer(size_t length);
     const char* ReadCString();
-    std::string ReadString();
+    // A negative length, or INT32_MAX, leaves the read position after the length word; any other failure puts it
+    // back before the length word. The string is empty on failure.
+    const std::string ReadString();
     bool ReadString(std::string& value);
-    std::u16string ReadString16();
+    const std::u16string ReadString16();
     bool ReadString16(std::u16string& value);
-    // A count then each text; false (and nothing kept) if the count is negative or runs past the data.
+    // A count up to the readable bytes, then each text; a text that fails to read is left empty.
     bool ReadString16Vector(std::vector<std::u16string>* values);
+
+    // Whether an object record starts at the read position.
+    bool CheckOffsets();
 
     template <typename T>
     T* ReadParcelable()
@@ -149,38 +178,53 @@ public:
     }
 
 protected:
-    // Reserves size bytes at the write cursor within the maximum capacity and returns where they start.
-    uint8_t* Reserve(size_t size);
-    // Object records (remote objects, file descriptors) in the data: no primitive or text read may overlap one, so
-    // that a hostile peer cannot have a record read as a number or a text is read into one.
-    void AddObject(size_t offset, size_t size);
-    bool HasObjectAt(size_t offset) const;
+    // Makes room for one more object record offset; WriteObjectOffset fails without it.
+    bool EnsureObjectsCapacity();
+    // Records an object record at offset (within the data, once).
+    bool WriteObjectOffset(binder_size_t offset);
 
 private:
+    struct ObjectRecords {
+        std::vector<binder_size_t> offsets;
+        // Room made by EnsureObjectsCapacity; a rewind that drops records shrinks it to what is left.
+        size_t capacity = 0;
+        bool ascending = true;
+        // The first record a forward read has not passed yet.
+        size_t nextIndex = 0;
+        std::vector<sptr<Parcelable>> holder;
+    };
+
     template <typename T>
-    bool WriteWord(T value);
+    bool Write(T value);
     template <typename T>
-    bool ReadWord(T& value);
-    template <typename T, typename Word = T>
-    T ReadWordOr(T fallback);
-    bool WritePadded(const void* data, size_t size);
-    bool EnsureCapacity(size_t required);
+    bool Read(T& value);
+    template <typename T>
+    T Read();
+    template <typename T>
+    bool ReadPadded(T& value);
+    bool WritePadded(const void* data, size_t size, size_t zeroTail);
+    void* Reallocate(size_t newCapacity);
+    bool EnsureWritableCapacity(size_t desiredBytes);
+    size_t CalcNewCapacity(size_t minNewCapacity) const;
+    bool IsObjectOffset(binder_size_t offset) const;
+    bool ValidateReadData(size_t upperBound);
     template <typename Str>
     bool WriteText(const Str& value, size_t maxLength);
     template <typename Str>
     bool ReadText(Str& value);
-    bool OverlapsObject(size_t start, size_t size) const;
 
+    // Null for the heap (DefaultAllocator's memory, without a call through the allocator).
+    Allocator* allocator_ = nullptr;
     uint8_t* data_ = nullptr;
     size_t capacity_ = 0;
     size_t maxCapacity_ = DEFAULT_CPACITY;
     size_t dataSize_ = 0;
     size_t writeCursor_ = 0;
     size_t readCursor_ = 0;
-    // Start offset to size, disjoint.
-    std::map<size_t, size_t> objects_;
+    // Made by the first EnsureObjectsCapacity: most parcels carry no object record and pay nothing for them.
+    std::unique_ptr<ObjectRecords> objects_;
 };
 
 } // namespace OHOS
 
-#endif // UTILS_PARCEL_H
+#endif // OHOS_UTILS_PARCEL_H

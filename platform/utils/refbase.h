@@ -15,68 +15,125 @@
 
 /*
  * Reference counting of the platform: RefBase with strong and weak counts, sptr and wptr.
- * The counts live in a RefCounter that outlives the object while weak references remain, so a wptr can tell
- * that its object is gone.
+ * A RefCounter holds the counts and outlives its object while weak references remain. Every strong reference is
+ * also a weak one; each wptr made from an object or an sptr adds a WeakRefCounter (shared by the wptrs copied from
+ * it) that counts once. An object is deleted when its last strong reference goes; one that was only ever held
+ * weakly, or whose lifetime is extended, when its last weak reference goes.
  */
-#ifndef UTILS_REFBASE_H
-#define UTILS_REFBASE_H
+#ifndef UTILS_BASE_REFBASE_H
+#define UTILS_BASE_REFBASE_H
 
 #include <atomic>
-#include <cstddef>
-#include <new>
 #include <utility>
 
 namespace OHOS {
 
-constexpr int INITIAL_PRIMARY_VALUE = 1 << 28;
+#define INITIAL_PRIMARY_VALUE (1 << 28)
+
+class RefBase;
 
 class RefCounter {
 public:
-    // Strong count; INITIAL_PRIMARY_VALUE until the first strong reference.
-    std::atomic<int> strong{INITIAL_PRIMARY_VALUE};
-    // Weak references (wptr) currently held.
-    std::atomic<int> weak{0};
-    // Holders of this counter: the object while it lives, plus every wptr.
-    std::atomic<int> holders{1};
-    std::atomic<bool> objectAlive{true};
+    friend class RefBase;
 
-    // Takes a strong reference unless the last one is already gone.
-    bool AttemptIncStrong();
-    void ReleaseHolder();
+    explicit RefCounter(RefBase* object);
+    RefCounter(const RefCounter&) = delete;
+    RefCounter& operator=(const RefCounter&) = delete;
+    virtual ~RefCounter() = default;
+
+    // Holders of the counter: the object until it lets go, and each WeakRefCounter.
+    int GetRefCount();
+    void IncRefCount();
+    void DecRefCount();
+
+    // The object, until its destructor runs.
+    bool IsRefPtrValid();
+    void RemoveCallback();
+
+    // Each returns the count before the change.
+    int IncStrongRefCount(const void* objectId);
+    int DecStrongRefCount(const void* objectId);
+    int GetStrongRefCount();
+    int IncWeakRefCount(const void* objectId);
+    int DecWeakRefCount(const void* objectId);
+    int GetWeakRefCount();
+    // A strong reference unless the object is gone for good; outCount is INITIAL_PRIMARY_VALUE when it is the
+    // first.
+    bool AttemptIncStrongRef(const void* objectId, int& outCount);
+
+    bool IsLifeTimeExtended();
+    void ExtendObjectLifetime();
+
+private:
+    // The object's deletion, when its counts say so.
+    void DeleteObject();
+
+    std::atomic<int> atomicStrong_{INITIAL_PRIMARY_VALUE};
+    std::atomic<int> atomicWeak_{0};
+    std::atomic<int> atomicRefCount_{0};
+    std::atomic<bool> extendedLifetime_{false};
+    std::atomic<RefBase*> object_;
+};
+
+// What the wptrs copied from one another share: one weak reference to the object, for as long as one of them lives.
+class WeakRefCounter {
+public:
+    WeakRefCounter(RefCounter* counter, void* cookie);
+    WeakRefCounter(const WeakRefCounter&) = delete;
+    WeakRefCounter& operator=(const WeakRefCounter&) = delete;
+    virtual ~WeakRefCounter();
+
+    // The object it was made for, or null once the object is destroyed.
+    void* GetRefPtr();
+    void IncWeakRefCount(const void* objectId);
+    // The last one deletes this WeakRefCounter.
+    void DecWeakRefCount(const void* objectId);
+    int GetWeakRefCount() const;
+    bool AttemptIncStrongRef(const void* objectId);
+
+private:
+    std::atomic<int> atomicWeak_{0};
+    RefCounter* refCounter_;
+    void* cookie_;
 };
 
 class RefBase {
 public:
     RefBase();
+    // A copy is a different object: it gets counts of its own. An assignment or a move leaves the counts alone.
     RefBase(const RefBase& other);
     RefBase& operator=(const RefBase& other);
     RefBase(RefBase&& other) noexcept;
     RefBase& operator=(RefBase&& other) noexcept;
     virtual ~RefBase();
 
+    // Deletes the object when its counts say so.
+    virtual void RefPtrCallback();
+
+    // The object then lives until its last weak reference, and a wptr promotes after the last strong one went.
+    void ExtendObjectLifetime();
+    bool IsExtendLifeTimeSet();
+
     void IncStrongRef(const void* objectId);
     void DecStrongRef(const void* objectId);
-    bool AttemptIncStrongRef(const void* objectId);
-    void IncWeakRef(const void* objectId);
-    void DecWeakRef(const void* objectId);
-
-    int GetSptrRefCount() const;
-    int GetWptrRefCount() const;
+    int GetSptrRefCount();
+    WeakRefCounter* CreateWeakRef(void* cookie);
     // Created on first need: a record that only ever lives in a container or on the stack never allocates one.
     RefCounter* GetRefCounter() const;
-
-    // The object is no longer deleted when its last strong reference goes.
-    void ExtendObjectLifetime() { extendedLifetime_ = true; }
-    bool IsExtendedLifetime() const { return extendedLifetime_; }
+    void IncWeakRef(const void* objectId);
+    void DecWeakRef(const void* objectId);
+    // The weak references, strong ones included.
+    int GetWptrRefCount();
+    bool AttemptIncStrongRef(const void* objectId);
 
     virtual void OnFirstStrongRef(const void* objectId);
     virtual void OnLastStrongRef(const void* objectId);
+    // Never called, as on the platform.
     virtual void OnLastWeakRef(const void* objectId);
     virtual bool OnAttemptPromoted(const void* objectId);
 
 private:
     mutable std::atomic<RefCounter*> refs_{nullptr};
-    bool extendedLifetime_ = false;
 };
 
 template <typename T>
@@ -86,7 +143,6 @@ template <typename T>
 class sptr {
 public:
     sptr() = default;
-    sptr(std::nullptr_t) {}
     sptr(T* other) : refs_(other)
     {
         if (refs_ != nullptr) {
@@ -95,14 +151,10 @@ public:
     }
     sptr(const sptr& other) : sptr(other.refs_) {}
     sptr(sptr&& other) noexcept : refs_(other.refs_) { other.refs_ = nullptr; }
+    // Only copies: std::move of a derived sptr into a base one leaves the source holding its object.
     template <typename O>
-    sptr(const sptr<O>& other) : sptr(static_cast<T*>(other.GetRefPtr()))
+    sptr(const sptr<O>& other) : sptr(other.GetRefPtr())
     {
-    }
-    template <typename O>
-    sptr(sptr<O>&& other) noexcept : refs_(static_cast<T*>(other.GetRefPtr()))
-    {
-        other.ForceSetRefPtr(nullptr);
     }
     ~sptr()
     {
@@ -111,28 +163,37 @@ public:
         }
     }
 
-    sptr& operator=(const sptr& other)
-    {
-        sptr copy(other);
-        std::swap(refs_, copy.refs_);
-        return *this;
-    }
+    sptr& operator=(const sptr& other) { return *this = other.refs_; }
     sptr& operator=(sptr&& other) noexcept
     {
-        sptr moved(std::move(other));
-        std::swap(refs_, moved.refs_);
+        T* taken = std::exchange(other.refs_, nullptr);
+        if (refs_ != nullptr) {
+            refs_->DecStrongRef(this);
+        }
+        refs_ = taken;
         return *this;
     }
     sptr& operator=(T* other)
     {
-        sptr copy(other);
-        std::swap(refs_, copy.refs_);
+        if (other != nullptr) {
+            other->IncStrongRef(this);
+        }
+        if (refs_ != nullptr) {
+            refs_->DecStrongRef(this);
+        }
+        refs_ = other;
         return *this;
     }
     template <typename O>
     sptr& operator=(const sptr<O>& other)
     {
-        return *this = static_cast<T*>(other.GetRefPtr());
+        T* object = other.GetRefPtr();
+        return *this = object;
+    }
+    sptr& operator=(const wptr<T>& other)
+    {
+        *this = other.promote();
+        return *this;
     }
 
     template <typename... Args>
@@ -147,8 +208,6 @@ public:
     operator T*() const { return refs_; }
     explicit operator bool() const { return refs_ != nullptr; }
 
-    bool operator==(std::nullptr_t) const { return refs_ == nullptr; }
-    bool operator!=(std::nullptr_t) const { return refs_ != nullptr; }
     bool operator==(const T* other) const { return refs_ == other; }
     bool operator!=(const T* other) const { return refs_ != other; }
     bool operator==(const sptr& other) const { return refs_ == other.refs_; }
@@ -156,11 +215,7 @@ public:
     bool operator==(const wptr<T>& other) const { return refs_ == other.GetRefPtr(); }
     bool operator!=(const wptr<T>& other) const { return refs_ != other.GetRefPtr(); }
 
-    void clear()
-    {
-        sptr released;
-        std::swap(refs_, released.refs_);
-    }
+    void clear() { *this = nullptr; }
     // Replaces the pointer without touching any count.
     void ForceSetRefPtr(T* other) { refs_ = other; }
 
@@ -172,28 +227,23 @@ private:
     T* refs_ = nullptr;
 };
 
+// No move: std::move of a wptr copies it.
 template <typename T>
 class wptr {
 public:
     wptr() = default;
-    wptr(std::nullptr_t) {}
     wptr(T* other) { Attach(other); }
     wptr(const sptr<T>& other) { Attach(other.GetRefPtr()); }
     template <typename O>
     wptr(const sptr<O>& other)
     {
-        Attach(static_cast<T*>(other.GetRefPtr()));
+        Attach(other.GetRefPtr());
     }
-    wptr(const wptr& other) { Share(other.object_, other.refs_); }
+    wptr(const wptr& other) { Share(other.refs_, other.object_); }
     template <typename O>
     wptr(const wptr<O>& other)
     {
-        Share(static_cast<T*>(other.object_), other.refs_);
-    }
-    wptr(wptr&& other) noexcept : object_(other.object_), refs_(other.refs_)
-    {
-        other.object_ = nullptr;
-        other.refs_ = nullptr;
+        Share(other.refs_, other.object_);
     }
     ~wptr() { Detach(); }
 
@@ -203,10 +253,11 @@ public:
         Swap(copy);
         return *this;
     }
-    wptr& operator=(wptr&& other) noexcept
+    template <typename O>
+    wptr& operator=(const wptr<O>& other)
     {
-        wptr moved(std::move(other));
-        Swap(moved);
+        wptr copy(other);
+        Swap(copy);
         return *this;
     }
     wptr& operator=(T* other)
@@ -215,33 +266,35 @@ public:
         Swap(copy);
         return *this;
     }
-    wptr& operator=(const sptr<T>& other)
+    wptr& operator=(const sptr<T>& other) { return *this = other.GetRefPtr(); }
+    template <typename O>
+    wptr& operator=(const sptr<O>& other)
     {
-        wptr copy(other);
-        Swap(copy);
-        return *this;
+        T* object = other.GetRefPtr();
+        return *this = object;
     }
 
-    // A strong reference, or null once the object's last strong reference has gone or the object was destroyed
-    // (one never strongly held keeps its initial count when it dies).
-    sptr<T> promote() const
+    // A strong reference, or null once the object is gone: its last strong reference went (unless its lifetime is
+    // extended) or it was destroyed.
+    const sptr<T> promote() const
     {
-        if (GetRefPtr() == nullptr || !refs_->AttemptIncStrong()) {
+        if (GetRefPtr() == nullptr || !refs_->AttemptIncStrongRef(this)) {
             return nullptr;
         }
         return sptr<T>(object_, typename sptr<T>::AdoptTag{});
     }
+    bool AttemptIncStrongRef(const void* objectId) const
+    {
+        return refs_ != nullptr && refs_->AttemptIncStrongRef(objectId);
+    }
+    // The wptrs that share this one's weak reference.
+    int GetWeakRefCount() const { return refs_ != nullptr ? refs_->GetWeakRefCount() : 0; }
 
     // The object, or null once it was destroyed.
-    T* GetRefPtr() const
-    {
-        return (refs_ != nullptr && refs_->objectAlive.load(std::memory_order_acquire)) ? object_ : nullptr;
-    }
+    T* GetRefPtr() const { return (refs_ != nullptr && refs_->GetRefPtr() != nullptr) ? object_ : nullptr; }
     T* operator->() const { return GetRefPtr(); }
     T& operator*() const { return *GetRefPtr(); }
 
-    bool operator==(std::nullptr_t) const { return GetRefPtr() == nullptr; }
-    bool operator!=(std::nullptr_t) const { return GetRefPtr() != nullptr; }
     bool operator==(const T* other) const { return GetRefPtr() == other; }
     bool operator!=(const T* other) const { return GetRefPtr() != other; }
     bool operator==(const wptr& other) const { return GetRefPtr() == other.GetRefPtr(); }
@@ -253,35 +306,38 @@ private:
     template <typename O>
     friend class wptr;
 
-    void Attach(T* object) { Share(object, object != nullptr ? object->GetRefCounter() : nullptr); }
-    void Share(T* object, RefCounter* refs)
+    void Attach(T* object)
     {
-        object_ = object;
+        WeakRefCounter* refs = object != nullptr ? object->CreateWeakRef(object) : nullptr;
+        Share(refs, object);
+    }
+    void Share(WeakRefCounter* refs, T* object)
+    {
         refs_ = refs;
+        object_ = refs != nullptr ? object : nullptr;
         if (refs_ != nullptr) {
-            refs_->holders.fetch_add(1, std::memory_order_relaxed);
-            refs_->weak.fetch_add(1, std::memory_order_relaxed);
+            refs_->IncWeakRefCount(this);
         }
     }
     void Detach()
     {
         if (refs_ != nullptr) {
-            refs_->weak.fetch_sub(1, std::memory_order_relaxed);
-            refs_->ReleaseHolder();
+            refs_->DecWeakRefCount(this);
         }
-        object_ = nullptr;
         refs_ = nullptr;
+        object_ = nullptr;
     }
     void Swap(wptr& other)
     {
-        std::swap(object_, other.object_);
         std::swap(refs_, other.refs_);
+        std::swap(object_, other.object_);
     }
 
+    WeakRefCounter* refs_ = nullptr;
+    // The object as a T: the counter's cookie is the object as the type the first wptr was made for.
     T* object_ = nullptr;
-    RefCounter* refs_ = nullptr;
 };
 
 } // namespace OHOS
 
-#endif // UTILS_REFBASE_H
+#endif // UTILS_BASE_REFBASE_H

@@ -14,11 +14,11 @@
  */
 
 /*
- * Lazily created process singletons. A DelayedRefSingleton is created on first use under a mutex (double-checked)
- * and never destroyed.
+ * Process singletons. A DelayedRefSingleton is created on first use under a mutex (double-checked) and never
+ * destroyed; a Singleton is a static object, made as the program loads.
  */
-#ifndef UTILS_SINGLETON_H
-#define UTILS_SINGLETON_H
+#ifndef UTILS_BASE_SINGLETON_H
+#define UTILS_BASE_SINGLETON_H
 
 #include <atomic>
 #include <memory>
@@ -50,6 +50,8 @@ private:                                                                        
     MyClass();                                                                                                         \
     ~MyClass();
 
+// The instance pointer is atomic on the host: the platform tests it outside its lock without an atomic, a data
+// race on the first concurrent GetInstance.
 template <typename T>
 class DelayedRefSingleton : public NoCopyable {
 public:
@@ -97,13 +99,15 @@ private:
 template <typename T>
 class Singleton : public NoCopyable {
 public:
-    static T& GetInstance()
-    {
-        static T instance;
-        return instance;
-    }
+    static T& GetInstance() { return instance_; }
+
+private:
+    static T instance_;
 };
+
+template <typename T>
+T Singleton<T>::instance_;
 
 } // namespace OHOS
 
-#endif // UTILS_SINGLETON_H
+#endif // UTILS_BASE_SINGLETON_H

@@ -13,17 +13,19 @@
  * limitations under the License.
  */
 
-#ifndef UTILS_STRING_EX_H
-#define UTILS_STRING_EX_H
+#ifndef STRING_EX_H
+#define STRING_EX_H
 
 #include <string>
 
 namespace OHOS {
 
-// UTF-8 to UTF-16 and back; malformed input gives an empty string, as on the platform.
+// UTF-8 to UTF-16 and back, as the platform converts: the result ends at the first NUL. UTF-8 continuation bytes
+// are not checked (encoded surrogates and overlong forms decode); only a sequence cut off by the end of the input
+// gives an empty string. A UTF-16 surrogate without its pair is left out.
 std::u16string Str8ToStr16(const std::string& str);
 std::string Str16ToStr8(const std::u16string& str16);
 
 } // namespace OHOS
 
-#endif // UTILS_STRING_EX_H
+#endif // STRING_EX_H

@@ -21,6 +21,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <utility>
 #include <vector>
 
 #include "usage_error.h"
@@ -100,16 +101,9 @@ int64_t CopyStandardInput(int to)
 }
 } // namespace
 
-FileToSend::FileToSend(int fd, std::string name, int64_t size, std::unique_ptr<TempFile> temp) :
-    fd_(fd), name_(std::move(name)), size_(size), temp_(std::move(temp))
+FileToSend::FileToSend(UniqueFd opened, std::string name, int64_t size, std::unique_ptr<TempFile> temp) :
+    opened_(std::move(opened)), name_(std::move(name)), size_(size), temp_(std::move(temp))
 {
-}
-
-FileToSend::~FileToSend()
-{
-    if (temp_ == nullptr) {
-        close(fd_);
-    }
 }
 
 std::unique_ptr<FileToSend> FileToSend::Open(const std::string& path)
@@ -120,11 +114,10 @@ std::unique_ptr<FileToSend> FileToSend::Open(const std::string& path)
             throw Refusal(temp->Error());
         }
         const int64_t size = CopyStandardInput(temp->Fd());
-        const int fd = temp->Fd();
-        return std::unique_ptr<FileToSend>(new FileToSend(fd, "standard input", size, std::move(temp)));
+        return std::unique_ptr<FileToSend>(new FileToSend(UniqueFd(), "standard input", size, std::move(temp)));
     }
     // Not blocking: opening a FIFO for reading would wait for a writer.
-    const int fd = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    UniqueFd fd(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     if (fd < 0) {
         throw Refusal("cannot open " + path + ": " + std::strerror(errno));
     }
@@ -139,11 +132,10 @@ std::unique_ptr<FileToSend> FileToSend::Open(const std::string& path)
                   std::to_string(MAX_SIZE) + " that are sent";
     }
     if (!refusal.empty()) {
-        close(fd);
         throw Refusal(refusal);
     }
     return std::unique_ptr<FileToSend>(
-        new FileToSend(fd, path.substr(path.find_last_of('/') + 1), status.st_size, nullptr));
+        new FileToSend(std::move(fd), path.substr(path.find_last_of('/') + 1), status.st_size, nullptr));
 }
 
 std::unique_ptr<FileToSend> FileToSend::Demo(std::string& error)
@@ -158,9 +150,8 @@ std::unique_ptr<FileToSend> FileToSend::Demo(std::string& error)
         return nullptr;
     }
     const std::string name = temp->Path().substr(temp->Path().find_last_of('/') + 1);
-    const int fd = temp->Fd();
     return std::unique_ptr<FileToSend>(
-        new FileToSend(fd, name, static_cast<int64_t>(contents.size()), std::move(temp)));
+        new FileToSend(UniqueFd(), name, static_cast<int64_t>(contents.size()), std::move(temp)));
 }
 
 } // namespace Zelkon

@@ -26,6 +26,7 @@
 #include <string>
 
 #include "temp_file.h"
+#include "unique_fd.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -40,22 +41,21 @@ public:
     static std::unique_ptr<FileToSend> Open(const std::string& path);
     // Null when TMPDIR cannot hold it, with the reason in `error`.
     static std::unique_ptr<FileToSend> Demo(std::string& error);
-    ~FileToSend();
     FileToSend(const FileToSend&) = delete;
     FileToSend& operator=(const FileToSend&) = delete;
 
-    int Fd() const { return fd_; }
+    int Fd() const { return temp_ != nullptr ? temp_->Fd() : opened_.Get(); }
     // The file's base name, or "standard input".
     const std::string& Name() const { return name_; }
     int64_t Size() const { return size_; }
 
 private:
-    FileToSend(int fd, std::string name, int64_t size, std::unique_ptr<TempFile> temp);
+    FileToSend(UniqueFd opened, std::string name, int64_t size, std::unique_ptr<TempFile> temp);
 
-    const int fd_;
+    // The regular file opened at its path, or else the temporary file.
+    const UniqueFd opened_;
     const std::string name_;
     const int64_t size_;
-    // Owns fd_ when there is one.
     const std::unique_ptr<TempFile> temp_;
 };
 

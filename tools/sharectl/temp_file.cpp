@@ -87,7 +87,7 @@ TempFile::TempFile(const std::string& stem)
         }
         // Named to the handler first: a signal that comes while the file is made removes it too.
         RemoveOnSignals(path);
-        fd_ = open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, OWNER_ONLY);
+        fd_ = UniqueFd(open(path.c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, OWNER_ONLY));
         if (fd_ >= 0) {
             path_ = path;
             return;
@@ -107,7 +107,6 @@ TempFile::~TempFile()
     }
     g_pending = false;
     unlink(path_.c_str());
-    close(fd_);
 }
 
 } // namespace Zelkon

@@ -22,6 +22,8 @@
 
 #include <string>
 
+#include "unique_fd.h"
+
 namespace OHOS {
 namespace Zelkon {
 
@@ -33,14 +35,14 @@ public:
     TempFile(const TempFile&) = delete;
     TempFile& operator=(const TempFile&) = delete;
 
-    int Fd() const { return fd_; }
+    int Fd() const { return fd_.Get(); }
     const std::string& Path() const { return path_; }
     const std::string& Error() const { return error_; }
 
 private:
     std::string path_;
     std::string error_;
-    int fd_ = -1;
+    UniqueFd fd_;
 };
 
 } // namespace Zelkon

@@ -30,7 +30,7 @@ int Channel::Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds
     int socket = -1;
     {
         std::lock_guard<std::mutex> lock(mutex_);
-        if (!socket_.Valid()) {
+        if (socket_ < 0) {
             return ERR_DEAD_OBJECT;
         }
         inCall_ = true;
@@ -67,7 +67,7 @@ int Channel::Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds
     inCall_ = false;
     // A late reply would be read as the answer to the next call.
     if (result != ERR_NONE || retired_) {
-        socket_.Reset();
+        socket_ = UniqueFd();
     }
     return result;
 }
@@ -75,13 +75,13 @@ int Channel::Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds
 void Channel::Close()
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    socket_.Reset();
+    socket_ = UniqueFd();
 }
 
 bool Channel::IsOpen()
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    return socket_.Valid();
+    return socket_ >= 0;
 }
 
 void Channel::Retire()
@@ -89,8 +89,8 @@ void Channel::Retire()
     std::lock_guard<std::mutex> lock(mutex_);
     retired_ = true;
     if (!inCall_) {
-        socket_.Reset();
-    } else if (socket_.Valid()) {
+        socket_ = UniqueFd();
+    } else if (socket_ >= 0) {
         shutdown(socket_.Get(), SHUT_RDWR);
     }
 }

@@ -58,7 +58,7 @@ bool MakeAddress(const std::string& name, FrameSocket::Namespace space, Address&
 UniqueFd NewSocket()
 {
     UniqueFd socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
-    if (!socket.Valid()) {
+    if (socket < 0) {
         IPC_HOST_LOGE("socket failed, errno %{public}d", errno);
     }
     return socket;
@@ -229,7 +229,7 @@ UniqueFd FrameSocket::Connect(const std::string& address, Namespace space)
         return UniqueFd();
     }
     UniqueFd socket = NewSocket();
-    if (!socket.Valid()) {
+    if (socket < 0) {
         return socket;
     }
     // A listener that no longer accepts must not hold the caller forever.
@@ -247,7 +247,7 @@ UniqueFd FrameSocket::Listen(const std::string& address, Namespace space)
         return UniqueFd();
     }
     UniqueFd socket = NewSocket();
-    if (!socket.Valid()) {
+    if (socket < 0) {
         return socket;
     }
     if (bind(socket.Get(), reinterpret_cast<const sockaddr*>(&own.address), own.length) != 0 ||

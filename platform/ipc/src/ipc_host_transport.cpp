@@ -29,6 +29,7 @@
 #include "listener.h"
 #include "session_proxy.h"
 #include "session_registry.h"
+#include "unique_fd.h"
 
 namespace OHOS {
 namespace {
@@ -38,7 +39,7 @@ bool TakePart()
     static const bool listening = [] {
         UniqueFd socket =
             FrameSocket::Listen(SessionRegistry::OfProcess().OwnAddress(), FrameSocket::Namespace::ABSTRACT);
-        if (!socket.Valid()) {
+        if (socket < 0) {
             return false;
         }
         Listener::Start(std::move(socket));
@@ -72,7 +73,7 @@ bool ClearPath(const std::string& path)
         IPC_HOST_LOGE("%{public}s exists and is not a socket", path.c_str());
         return false;
     }
-    if (FrameSocket::Connect(path, FrameSocket::Namespace::FILESYSTEM).Valid()) {
+    if (FrameSocket::Connect(path, FrameSocket::Namespace::FILESYSTEM) >= 0) {
         IPC_HOST_LOGE("another process serves at %{public}s", path.c_str());
         return false;
     }
@@ -103,7 +104,7 @@ bool IpcHostTransport::ServeContextObject(const std::string& path, const sptr<IR
         return false;
     }
     UniqueFd socket = FrameSocket::Listen(path, FrameSocket::Namespace::FILESYSTEM);
-    if (!socket.Valid()) {
+    if (socket < 0) {
         return false;
     }
     if (!ExportTable::OfProcess().ServeContext(object)) {

@@ -47,7 +47,7 @@ void Listener::Stop()
     shutdown(socket_.Get(), SHUT_RDWR);
     std::unique_lock<std::mutex> lock(mutex_);
     stopped_.wait(lock, [this] { return !accepting_; });
-    socket_.Reset();
+    socket_ = UniqueFd();
 }
 
 void Listener::Accept()

@@ -15,6 +15,7 @@
 
 #include "message_parcel.h"
 
+#include <cstdint>
 #include <cstring>
 #include <utility>
 
@@ -22,6 +23,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "flat_obj.h"
 #include "flat_object.h"
 #include "ipc_log.h"
 #include "ipc_types.h"
@@ -75,23 +77,43 @@ MessageParcel::~MessageParcel()
 bool MessageParcel::WriteRecord(uint32_t type, uint64_t value, const Carried& carried)
 {
     const size_t start = GetWritePosition();
+    if (!EnsureObjectsCapacity()) {
+        return false;
+    }
     if (!(WriteUint32(type) && WriteUint32(FlatObject::FLAGS) && WriteUint64(value) && WriteUint64(0))) {
         RewindWrite(start);
         return false;
     }
-    carried_[start] = carried;
-    AddObject(start, FlatObject::SIZE);
+    Carry(start, carried);
+    // Refused only where an offset is already recorded (after a failed marshalling), or past a data size set
+    // smaller: the record is written all the same, as on the platform.
+    (void)WriteObjectOffset(start);
     return true;
+}
+
+void MessageParcel::Carry(size_t offset, Carried carried)
+{
+    auto [it, inserted] = carried_.try_emplace(offset, carried);
+    // A record written again where a rewind dropped one: the descriptor of the dropped one is this parcel's to close.
+    if (!inserted) {
+        if (it->second.kind == CarriedKind::FD) {
+            close(it->second.fd);
+        }
+        it->second = std::move(carried);
+    }
 }
 
 const MessageParcel::Carried* MessageParcel::CarriedAtReadPosition(CarriedKind kind)
 {
-    const size_t position = GetReadPosition();
-    auto it = carried_.find(position);
-    if (it == carried_.end() || it->second.kind != kind || GetReadableBytes() < FlatObject::SIZE) {
+    if (!CheckOffsets()) {
         return nullptr;
     }
-    // The bytes may have been rewritten since (RewindWrite); the record must still be there.
+    const size_t position = GetReadPosition();
+    auto it = carried_.find(position);
+    if (it == carried_.end() || it->second.kind != kind) {
+        return nullptr;
+    }
+    // A failed marshalling may leave an offset behind whose bytes were written over; the record must still be there.
     const uint32_t type = RecordTypeAt(reinterpret_cast<const uint8_t*>(GetData()), position);
     const bool objectRecord = type == FlatObject::TYPE_BINDER || type == FlatObject::TYPE_HANDLE;
     if (kind == CarriedKind::OBJECT ? !objectRecord : type != FlatObject::TYPE_FD) {
@@ -154,8 +176,10 @@ int MessageParcel::ReadFileDescriptor()
 
 bool MessageParcel::ContainFileDescriptors() const
 {
-    for (const auto& [offset, carried] : carried_) {
-        if (carried.kind == CarriedKind::FD) {
+    const auto* offsets = reinterpret_cast<const binder_size_t*>(static_cast<uintptr_t>(GetObjectOffsets()));
+    for (size_t i = 0; i < GetOffsetsSize(); ++i) {
+        auto it = carried_.find(offsets[i]);
+        if (it != carried_.end() && it->second.kind == CarriedKind::FD) {
             return true;
         }
     }

@@ -15,9 +15,12 @@
 
 #include "parcel_records.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <cstring>
 #include <unistd.h>
 
+#include "flat_obj.h"
 #include "flat_object.h"
 #include "ipc_log.h"
 
@@ -37,14 +40,23 @@ void CloseAll(const std::vector<ParcelRecord>& records)
 std::vector<ParcelRecord> ParcelRecords::Of(const MessageParcel& parcel)
 {
     std::vector<ParcelRecord> records;
-    for (const auto& [offset, carried] : parcel.carried_) {
-        // A record overwritten after a rewind is plain data now; one cut off by SetDataSize does not travel.
-        if (!parcel.HasObjectAt(offset) || offset + FlatObject::SIZE > parcel.GetDataSize()) {
+    if (parcel.GetOffsetsSize() == 0) {
+        return records;
+    }
+    const auto* offsets = reinterpret_cast<const binder_size_t*>(static_cast<uintptr_t>(parcel.GetObjectOffsets()));
+    for (size_t i = 0; i < parcel.GetOffsetsSize(); ++i) {
+        auto carried = parcel.carried_.find(offsets[i]);
+        // One cut off by SetDataSize does not travel.
+        if (carried == parcel.carried_.end() || offsets[i] + FlatObject::SIZE > parcel.GetDataSize()) {
             continue;
         }
-        const bool object = carried.kind == MessageParcel::CarriedKind::OBJECT;
-        records.push_back({offset, object ? carried.object : nullptr, object ? INVALID_FD : carried.fd});
+        const bool object = carried->second.kind == MessageParcel::CarriedKind::OBJECT;
+        records.push_back(
+            {carried->first, object ? carried->second.object : nullptr, object ? INVALID_FD : carried->second.fd});
     }
+    // Recorded in the order written, which the rollback of a failed marshalling can make other than the data's.
+    std::sort(records.begin(), records.end(),
+              [](const ParcelRecord& a, const ParcelRecord& b) { return a.offset < b.offset; });
     return records;
 }
 
@@ -79,10 +91,12 @@ bool ParcelRecords::Append(MessageParcel& parcel, uint8_t* bytes, size_t size, s
     }
     for (ParcelRecord& record : records) {
         const bool object = record.object != nullptr;
-        parcel.carried_[base + record.offset] =
+        parcel.Carry(
+            base + record.offset,
             MessageParcel::Carried{object ? MessageParcel::CarriedKind::OBJECT : MessageParcel::CarriedKind::FD,
-                                   std::move(record.object), object ? INVALID_FD : record.fd};
-        parcel.AddObject(base + record.offset, FlatObject::SIZE);
+                                   std::move(record.object), object ? INVALID_FD : record.fd});
+        // The offsets are distinct and within the data, so each is recorded; the parcel owns the descriptor anyway.
+        (void)(parcel.EnsureObjectsCapacity() && parcel.WriteObjectOffset(base + record.offset));
     }
     return true;
 }

@@ -19,6 +19,7 @@
 #include "ipc_log.h"
 #include "parcel_records.h"
 #include "session_proxy.h"
+#include "unique_fd.h"
 
 namespace OHOS {
 namespace {

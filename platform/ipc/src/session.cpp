@@ -87,7 +87,7 @@ void Session::SendRelease(uint64_t handle)
     release.handle = handle;
     const std::vector<uint8_t> bytes = release.Encode(nullptr, 0, 0);
     std::lock_guard<std::mutex> lock(sendMutex_);
-    if (socket_.Valid() && !FrameSocket::Send(socket_.Get(), bytes, {})) {
+    if (socket_ >= 0 && !FrameSocket::Send(socket_.Get(), bytes, {})) {
         IPC_HOST_LOGW("release of handle %{public}llu to pid %{public}d failed",
                       static_cast<unsigned long long>(handle), peerPid_);
     }
@@ -164,7 +164,7 @@ void Session::End()
     std::vector<std::weak_ptr<Channel>> channels;
     {
         std::lock_guard<std::mutex> lock(sendMutex_);
-        socket_.Reset();
+        socket_ = UniqueFd();
     }
     {
         std::lock_guard<std::mutex> lock(mutex_);

@@ -79,10 +79,10 @@ std::shared_ptr<Session> SessionRegistry::SessionTo(const std::string& address)
     }
     lock.unlock();
     UniqueFd socket = FrameSocket::Connect(address, FrameSocket::Namespace::ABSTRACT);
-    if (!socket.Valid()) {
+    if (socket < 0) {
         IPC_HOST_LOGE("cannot reach %{public}s, errno %{public}d", address.c_str(), errno);
     }
-    std::shared_ptr<Session> session = socket.Valid() ? Open(std::move(socket), address) : nullptr;
+    std::shared_ptr<Session> session = socket >= 0 ? Open(std::move(socket), address) : nullptr;
     lock.lock();
     opening_.erase(address);
     opened_.notify_all();
@@ -96,7 +96,7 @@ std::shared_ptr<Session> SessionRegistry::SessionTo(const std::string& address)
 std::shared_ptr<Session> SessionRegistry::SessionAt(const std::string& path)
 {
     UniqueFd socket = FrameSocket::Connect(path, FrameSocket::Namespace::FILESYSTEM);
-    if (!socket.Valid()) {
+    if (socket < 0) {
         IPC_HOST_LOGE("nobody serves at %{public}s, errno %{public}d", path.c_str(), errno);
         return nullptr;
     }

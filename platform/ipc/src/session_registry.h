@@ -32,6 +32,7 @@
 
 #include "ipc_frame.h"
 #include "session.h"
+#include "unique_fd.h"
 
 namespace OHOS {
 

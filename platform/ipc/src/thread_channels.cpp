@@ -21,6 +21,7 @@
 #include "frame_socket.h"
 #include "ipc_log.h"
 #include "session_registry.h"
+#include "unique_fd.h"
 
 namespace OHOS {
 namespace {
@@ -45,7 +46,7 @@ std::shared_ptr<Channel> ThreadChannels::To(const std::shared_ptr<Session>& sess
     UniqueFd socket = FrameSocket::Connect(session->PeerAddress(), FrameSocket::Namespace::ABSTRACT);
     const std::vector<uint8_t> hello = IpcFrame::EncodeHello(IpcFrame::Kind::CHANNEL_HELLO, session->Nonce(), getpid(),
                                                              SessionRegistry::OfProcess().OwnAddress());
-    if (!socket.Valid() || !FrameSocket::Send(socket.Get(), hello, {})) {
+    if (socket < 0 || !FrameSocket::Send(socket.Get(), hello, {})) {
         IPC_HOST_LOGE("cannot open a channel to pid %{public}d, errno %{public}d", session->PeerPid(), errno);
         return nullptr;
     }

@@ -16,43 +16,66 @@
 #include "parcel.h"
 
 #include <algorithm>
-#include <climits>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
-#include <iterator>
 
 namespace OHOS {
 namespace {
 
-constexpr size_t WORD = 4;
 constexpr size_t MIN_CAPACITY = 64;
+// Below it the capacity doubles; above it the capacity grows in steps of it.
+constexpr size_t CAPACITY_STEP = 4096;
+constexpr size_t OBJECT_SIZE = sizeof(parcel_flat_binder_object);
+static_assert(OBJECT_SIZE == 24, "the object record has the driver's 64-bit layout");
 
-// A size too large to pad saturates instead of wrapping to 0, so it stays too large for every check that follows.
-size_t Pad4(size_t size)
+// The zero bytes that round size up to a word (size modulo 2^N, so it cannot overflow).
+size_t PadSize(size_t size)
 {
-    return size > SIZE_MAX - (WORD - 1) ? SIZE_MAX : (size + WORD - 1) & ~(WORD - 1);
-}
-
-// 64 bytes, then doubling all the way: a parcel of several MiB is copied a few times as it grows, not once per
-// 4 KiB as in steps of 4 KiB.
-size_t GrownCapacity(size_t required)
-{
-    size_t capacity = MIN_CAPACITY;
-    while (capacity < required && capacity <= SIZE_MAX / 2) {
-        capacity *= 2;
-    }
-    return std::max(capacity, required);
+    return (0 - size) & (sizeof(uint32_t) - 1);
 }
 
 } // namespace
 
+void* DefaultAllocator::Alloc(size_t size)
+{
+    return std::malloc(size);
+}
+
+void DefaultAllocator::Dealloc(void* data)
+{
+    std::free(data);
+}
+
+void* DefaultAllocator::Realloc(void* data, size_t newSize)
+{
+    return std::realloc(data, newSize);
+}
+
 Parcel::Parcel() = default;
 
-Parcel::Parcel(Allocator*) {}
+Parcel::Parcel(Allocator* allocator) : allocator_(allocator) {}
 
 Parcel::~Parcel()
 {
-    std::free(data_);
+    if (allocator_ == nullptr) {
+        std::free(data_);
+        return;
+    }
+    if (data_ != nullptr) {
+        allocator_->Dealloc(data_);
+    }
+    delete allocator_;
+}
+
+void* Parcel::Reallocate(size_t newCapacity)
+{
+    return allocator_ != nullptr ? allocator_->Realloc(data_, newCapacity) : std::realloc(data_, newCapacity);
+}
+
+binder_size_t Parcel::GetObjectOffsets() const
+{
+    return objects_ == nullptr || objects_->capacity == 0 ? 0 : reinterpret_cast<uintptr_t>(objects_->offsets.data());
 }
 
 bool Parcel::SetMaxCapacity(size_t newMaxCapacity)
@@ -66,14 +89,14 @@ bool Parcel::SetMaxCapacity(size_t newMaxCapacity)
 
 bool Parcel::SetDataCapacity(size_t newCapacity)
 {
-    if (newCapacity < dataSize_) {
+    if (newCapacity <= dataSize_) {
         return false;
     }
-    auto* grown = static_cast<uint8_t*>(std::realloc(data_, newCapacity == 0 ? 1 : newCapacity));
+    void* grown = Reallocate(newCapacity);
     if (grown == nullptr) {
         return false;
     }
-    data_ = grown;
+    data_ = static_cast<uint8_t*>(grown);
     capacity_ = newCapacity;
     return true;
 }
@@ -87,23 +110,109 @@ bool Parcel::SetDataSize(size_t dataSize)
     return true;
 }
 
-bool Parcel::EnsureCapacity(size_t required)
+size_t Parcel::CalcNewCapacity(size_t minNewCapacity) const
 {
-    if (required <= capacity_) {
-        return true;
+    if (minNewCapacity == CAPACITY_STEP) {
+        return CAPACITY_STEP;
     }
-    return SetDataCapacity(std::min(GrownCapacity(required), maxCapacity_));
+    if (minNewCapacity > CAPACITY_STEP) {
+        const size_t steps = minNewCapacity / CAPACITY_STEP * CAPACITY_STEP;
+        // The maximum capacity never falls below its default, far above one step.
+        return steps > maxCapacity_ - CAPACITY_STEP ? maxCapacity_ : steps + CAPACITY_STEP;
+    }
+    size_t capacity = MIN_CAPACITY;
+    while (capacity < minNewCapacity) {
+        capacity *= 2;
+    }
+    return std::min(capacity, maxCapacity_);
 }
 
-uint8_t* Parcel::Reserve(size_t size)
+bool Parcel::EnsureWritableCapacity(size_t desiredBytes)
 {
-    if (size > maxCapacity_ || writeCursor_ > maxCapacity_ - size || !EnsureCapacity(writeCursor_ + size)) {
-        return nullptr;
+    if (desiredBytes <= GetWritableBytes()) {
+        return data_ != nullptr;
     }
-    uint8_t* start = data_ + writeCursor_;
-    writeCursor_ += size;
-    dataSize_ = std::max(dataSize_, writeCursor_);
-    return start;
+    if (desiredBytes > SIZE_MAX - writeCursor_) {
+        return false;
+    }
+    const size_t minNewCapacity = writeCursor_ + desiredBytes;
+    const size_t newCapacity = CalcNewCapacity(minNewCapacity);
+    if (newCapacity <= capacity_ || newCapacity < minNewCapacity) {
+        return false;
+    }
+    void* grown = Reallocate(newCapacity);
+    if (grown == nullptr) {
+        return false;
+    }
+    data_ = static_cast<uint8_t*>(grown);
+    capacity_ = newCapacity;
+    return true;
+}
+
+bool Parcel::EnsureObjectsCapacity()
+{
+    if (objects_ == nullptr) {
+        objects_ = std::make_unique<ObjectRecords>();
+    }
+    if (objects_->capacity > objects_->offsets.size()) {
+        return true;
+    }
+    objects_->capacity = (objects_->capacity + 2) * 3 / 2;
+    objects_->offsets.reserve(objects_->capacity);
+    return true;
+}
+
+bool Parcel::WriteObjectOffset(binder_size_t offset)
+{
+    // Without the room EnsureObjectsCapacity makes, the device's parcel would write past its array.
+    if (offset > dataSize_ || GetOffsetsSize() >= (objects_ != nullptr ? objects_->capacity : 0) ||
+        IsObjectOffset(offset)) {
+        return false;
+    }
+    std::vector<binder_size_t>& offsets = objects_->offsets;
+    objects_->ascending = objects_->ascending && (offsets.empty() || offset > offsets.back());
+    offsets.push_back(offset);
+    return true;
+}
+
+// Records are written in ascending order, and then a peer's many records cost a search by halves each, not a scan.
+bool Parcel::IsObjectOffset(binder_size_t offset) const
+{
+    if (objects_ == nullptr) {
+        return false;
+    }
+    const std::vector<binder_size_t>& offsets = objects_->offsets;
+    if (objects_->ascending) {
+        return std::binary_search(offsets.begin(), offsets.end(), offset);
+    }
+    return std::find(offsets.begin(), offsets.end(), offset) != offsets.end();
+}
+
+bool Parcel::CheckOffsets()
+{
+    return readCursor_ + OBJECT_SIZE <= dataSize_ && IsObjectOffset(readCursor_);
+}
+
+// Records are checked in the order written, from the first one that the reads have not passed yet: a read of
+// [readCursor_, upperBound) fails if it takes a byte of one.
+bool Parcel::ValidateReadData(size_t upperBound)
+{
+    if (objects_ == nullptr) {
+        return true;
+    }
+    const std::vector<binder_size_t>& offsets = objects_->offsets;
+    size_t next = objects_->nextIndex;
+    if (next >= offsets.size() || upperBound <= offsets[next]) {
+        return true;
+    }
+    do {
+        if (readCursor_ < offsets[next] + OBJECT_SIZE) {
+            return false;
+        }
+        ++next;
+    } while (next < offsets.size() && upperBound > offsets[next]);
+    objects_->nextIndex = next;
+    return true;
 }
 
 bool Parcel::RewindRead(size_t newPosition)
@@ -112,6 +221,9 @@ bool Parcel::RewindRead(size_t newPosition)
         return false;
     }
     readCursor_ = newPosition;
+    if (objects_ != nullptr) {
+        objects_->nextIndex = 0;
+    }
     return true;
 }
 
@@ -122,130 +234,123 @@ bool Parcel::RewindWrite(size_t offsets)
     }
     writeCursor_ = offsets;
     dataSize_ = offsets;
-    readCursor_ = std::min(readCursor_, offsets);
-    // Records cut by the rewind are gone: the bytes that replace them are plain data.
-    auto firstCut = objects_.lower_bound(offsets);
-    if (firstCut != objects_.begin() && std::prev(firstCut)->first + std::prev(firstCut)->second > offsets) {
-        --firstCut;
+    size_t kept = GetOffsetsSize();
+    while (kept > 0 && objects_->offsets[kept - 1] + OBJECT_SIZE > offsets) {
+        --kept;
     }
-    objects_.erase(firstCut, objects_.end());
+    if (kept == GetOffsetsSize()) {
+        return true;
+    }
+    if (kept == 0) {
+        objects_.reset();
+    } else {
+        objects_->offsets.resize(kept);
+        objects_->capacity = kept;
+        objects_->holder.resize(std::min(objects_->holder.size(), kept));
+        objects_->nextIndex = 0;
+    }
     return true;
-}
-
-void Parcel::AddObject(size_t offset, size_t size)
-{
-    objects_[offset] = size;
-}
-
-bool Parcel::HasObjectAt(size_t offset) const
-{
-    return objects_.count(offset) != 0;
-}
-
-bool Parcel::OverlapsObject(size_t start, size_t size) const
-{
-    if (objects_.empty() || size == 0) {
-        return false;
-    }
-    auto after = objects_.lower_bound(start + size);
-    if (after == objects_.begin()) {
-        return false;
-    }
-    const auto& [offset, objectSize] = *std::prev(after);
-    return offset + objectSize > start;
 }
 
 void Parcel::SkipBytes(size_t bytes)
 {
-    size_t padded = Pad4(bytes);
-    readCursor_ = padded <= GetReadableBytes() ? readCursor_ + padded : dataSize_;
+    if (GetReadableBytes() >= bytes) {
+        readCursor_ += bytes;
+    } else if (readCursor_ < capacity_) {
+        readCursor_ = capacity_;
+    }
 }
 
 template <typename T>
-bool Parcel::WriteWord(T value)
+bool Parcel::Write(T value)
 {
-    uint8_t* target = Reserve(sizeof(T));
-    if (target == nullptr) {
+    if (!EnsureWritableCapacity(sizeof(T))) {
         return false;
     }
-    std::memcpy(target, &value, sizeof(T));
+    std::memcpy(data_ + writeCursor_, &value, sizeof(T));
+    writeCursor_ += sizeof(T);
+    dataSize_ += sizeof(T);
     return true;
 }
 
-bool Parcel::WritePadded(const void* data, size_t size)
+// size bytes of data, then zeroTail zero bytes (a text's terminator), then the padding to a word.
+bool Parcel::WritePadded(const void* data, size_t size, size_t zeroTail)
 {
-    uint8_t* target = Reserve(Pad4(size));
-    if (target == nullptr) {
+    const size_t total = size + zeroTail;
+    const size_t padded = total + PadSize(total);
+    if (total < size || padded < total || !EnsureWritableCapacity(padded)) {
         return false;
     }
-    std::memcpy(target, data, size);
-    std::memset(target + size, 0, Pad4(size) - size);
+    std::memcpy(data_ + writeCursor_, data, size);
+    std::memset(data_ + writeCursor_ + size, 0, padded - size);
+    writeCursor_ += padded;
+    dataSize_ += padded;
     return true;
 }
 
 bool Parcel::WriteBool(bool value)
 {
-    return WriteWord<int32_t>(value ? 1 : 0);
+    return Write<int32_t>(value ? 1 : 0);
 }
 
 bool Parcel::WriteInt8(int8_t value)
 {
-    return WriteWord<int32_t>(value);
+    return Write<int32_t>(value);
 }
 
 bool Parcel::WriteInt16(int16_t value)
 {
-    return WriteWord<int32_t>(value);
+    return Write<int32_t>(value);
 }
 
 bool Parcel::WriteInt32(int32_t value)
 {
-    return WriteWord(value);
+    return Write(value);
 }
 
 bool Parcel::WriteInt64(int64_t value)
 {
-    return WriteWord(value);
+    return Write(value);
 }
 
 bool Parcel::WriteUint8(uint8_t value)
 {
-    return WriteWord<uint32_t>(value);
+    return Write<uint32_t>(value);
 }
 
 bool Parcel::WriteUint16(uint16_t value)
 {
-    return WriteWord<uint32_t>(value);
+    return Write<uint32_t>(value);
 }
 
 bool Parcel::WriteUint32(uint32_t value)
 {
-    return WriteWord(value);
+    return Write(value);
 }
 
 bool Parcel::WriteUint64(uint64_t value)
 {
-    return WriteWord(value);
+    return Write(value);
 }
 
 bool Parcel::WriteFloat(float value)
 {
-    return WriteWord(value);
+    return Write(value);
 }
 
 bool Parcel::WriteDouble(double value)
 {
-    return WriteWord(value);
+    return Write(value);
 }
 
 bool Parcel::WritePointer(uintptr_t value)
 {
-    return WriteWord<uint64_t>(value);
+    return Write<binder_uintptr_t>(value);
 }
 
 bool Parcel::WriteBuffer(const void* data, size_t size)
 {
-    return data != nullptr && size != 0 && WritePadded(data, size);
+    return data != nullptr && size != 0 && WritePadded(data, size, 0);
 }
 
 bool Parcel::WriteUnpadBuffer(const void* data, size_t size)
@@ -255,26 +360,17 @@ bool Parcel::WriteUnpadBuffer(const void* data, size_t size)
 
 bool Parcel::WriteCString(const char* value)
 {
-    return value != nullptr && WritePadded(value, std::strlen(value) + 1);
+    return value != nullptr && WritePadded(value, std::strlen(value), 1);
 }
 
-// The length word is reserved first: when the body does not fit, it stays in the parcel.
+// The length word is written first: when the body does not fit, it stays in the parcel.
 template <typename Str>
 bool Parcel::WriteText(const Str& value, size_t maxLength)
 {
     using Unit = typename Str::value_type;
-    size_t length = value.size();
-    if (length >= maxLength || !WriteInt32(static_cast<int32_t>(length))) {
-        return false;
-    }
-    size_t bytes = (length + 1) * sizeof(Unit);
-    uint8_t* target = Reserve(Pad4(bytes));
-    if (target == nullptr) {
-        return false;
-    }
-    std::memcpy(target, value.data(), length * sizeof(Unit));
-    std::memset(target + length * sizeof(Unit), 0, Pad4(bytes) - length * sizeof(Unit));
-    return true;
+    const size_t length = value.size();
+    return length < maxLength && Write<int32_t>(static_cast<int32_t>(length)) &&
+           WritePadded(value.data(), length * sizeof(Unit), sizeof(Unit));
 }
 
 bool Parcel::WriteString(const std::string& value)
@@ -284,7 +380,7 @@ bool Parcel::WriteString(const std::string& value)
 
 bool Parcel::WriteString16(const std::u16string& value)
 {
-    return WriteText(value, INT32_MAX / 2);
+    return WriteText(value, INT32_MAX / sizeof(char16_t));
 }
 
 bool Parcel::WriteString16Vector(const std::vector<std::u16string>& values)
@@ -300,21 +396,37 @@ bool Parcel::WriteString16Vector(const std::vector<std::u16string>& values)
     return true;
 }
 
+bool Parcel::WriteRemoteObject(const Parcelable* object)
+{
+    const size_t start = writeCursor_;
+    if (object == nullptr || !object->asRemote_ || !EnsureObjectsCapacity() || !object->Marshalling(*this)) {
+        return false;
+    }
+    // The marshalling may have recorded its record itself; a second offset at the same place is refused.
+    (void)WriteObjectOffset(start);
+    if (object->TestBehavior(Parcelable::BehaviorFlag::HOLD_OBJECT)) {
+        objects_->holder.emplace_back(const_cast<Parcelable*>(object));
+    }
+    return true;
+}
+
 bool Parcel::WriteParcelable(const Parcelable* object)
 {
     if (object == nullptr) {
         return WriteInt32(0);
     }
-    size_t start = writeCursor_;
-    if (!WriteInt32(1)) {
-        return false;
+    if (!object->asRemote_) {
+        return WriteInt32(1) && object->Marshalling(*this);
     }
-    bool written = object->Marshalling(*this);
+    const size_t start = writeCursor_;
+    const size_t size = dataSize_;
+    if (WriteInt32(1) && WriteRemoteObject(object)) {
+        return true;
+    }
     // A remote object's record is withdrawn with its presence word; a plain record keeps what it wrote.
-    if (!written && object->asRemote_) {
-        RewindWrite(start);
-    }
-    return written;
+    writeCursor_ = start;
+    dataSize_ = size;
+    return false;
 }
 
 bool Parcel::WriteStrongParcelable(const sptr<Parcelable>& object)
@@ -327,76 +439,118 @@ bool Parcel::WriteStrongParcelable(const sptr<Parcelable>& object)
     return WriteParcelable(object.GetRefPtr());
 }
 
+// A read that would take a byte of an object record fails, but the read position moves past it all the same.
 template <typename T>
-bool Parcel::ReadWord(T& value)
+bool Parcel::Read(T& value)
 {
-    if (GetReadableBytes() < sizeof(T) || OverlapsObject(readCursor_, sizeof(T))) {
+    if (GetReadableBytes() < sizeof(T)) {
         return false;
     }
-    std::memcpy(&value, data_ + readCursor_, sizeof(T));
-    readCursor_ += sizeof(T);
-    return true;
+    const size_t start = readCursor_;
+    const bool valid = ValidateReadData(start + sizeof(T));
+    readCursor_ = start + sizeof(T);
+    if (valid) {
+        std::memcpy(&value, data_ + start, sizeof(T));
+    }
+    return valid;
+}
+
+template <typename T>
+T Parcel::Read()
+{
+    T value{};
+    return Read(value) ? value : T{};
 }
 
 // Small integers travel as one word; the value is its low bits.
-template <typename T, typename Word>
-T Parcel::ReadWordOr(T fallback)
+template <typename T>
+bool Parcel::ReadPadded(T& value)
 {
-    Word word;
-    return ReadWord(word) ? static_cast<T>(word) : fallback;
+    int32_t word;
+    if (!Read(word)) {
+        return false;
+    }
+    value = static_cast<T>(word);
+    return true;
 }
 
 bool Parcel::ReadBool()
 {
-    return ReadWordOr<int32_t>(0) != 0;
+    return Read<int32_t>() != 0;
 }
 
 bool Parcel::ReadBool(bool& value)
 {
-    int32_t word;
-    if (!ReadWord(word)) {
-        return false;
-    }
-    value = word != 0;
-    return true;
+    return ReadPadded(value);
 }
 
-#define SMALL_WORD_READERS(Name, Type, Word)                                                                           \
+int8_t Parcel::ReadInt8()
+{
+    return static_cast<int8_t>(Read<int32_t>());
+}
+
+bool Parcel::ReadInt8(int8_t& value)
+{
+    return ReadPadded(value);
+}
+
+int16_t Parcel::ReadInt16()
+{
+    return static_cast<int16_t>(Read<int32_t>());
+}
+
+bool Parcel::ReadInt16(int16_t& value)
+{
+    return ReadPadded(value);
+}
+
+uint8_t Parcel::ReadUint8()
+{
+    return static_cast<uint8_t>(Read<uint32_t>());
+}
+
+bool Parcel::ReadUint8(uint8_t& value)
+{
+    return ReadPadded(value);
+}
+
+uint16_t Parcel::ReadUint16()
+{
+    return static_cast<uint16_t>(Read<uint32_t>());
+}
+
+bool Parcel::ReadUint16(uint16_t& value)
+{
+    return ReadPadded(value);
+}
+
+#define WORD_READERS(Name, Type)                                                                                       \
     Type Parcel::Read##Name()                                                                                          \
     {                                                                                                                  \
-        return ReadWordOr<Type, Word>(0);                                                                              \
+        return Read<Type>();                                                                                           \
     }                                                                                                                  \
     bool Parcel::Read##Name(Type& value)                                                                               \
     {                                                                                                                  \
-        Word word;                                                                                                     \
-        if (!ReadWord(word)) {                                                                                         \
-            return false;                                                                                              \
-        }                                                                                                              \
-        value = static_cast<Type>(word);                                                                               \
-        return true;                                                                                                   \
+        return Read(value);                                                                                            \
     }
 
-SMALL_WORD_READERS(Int8, int8_t, int32_t)
-SMALL_WORD_READERS(Int16, int16_t, int32_t)
-SMALL_WORD_READERS(Uint8, uint8_t, uint32_t)
-SMALL_WORD_READERS(Uint16, uint16_t, uint32_t)
-SMALL_WORD_READERS(Int32, int32_t, int32_t)
-SMALL_WORD_READERS(Uint32, uint32_t, uint32_t)
-SMALL_WORD_READERS(Int64, int64_t, int64_t)
-SMALL_WORD_READERS(Uint64, uint64_t, uint64_t)
-SMALL_WORD_READERS(Float, float, float)
-SMALL_WORD_READERS(Double, double, double)
+WORD_READERS(Int32, int32_t)
+WORD_READERS(Uint32, uint32_t)
+WORD_READERS(Int64, int64_t)
+WORD_READERS(Uint64, uint64_t)
+WORD_READERS(Float, float)
+WORD_READERS(Double, double)
 
-#undef SMALL_WORD_READERS
+#undef WORD_READERS
 
 uintptr_t Parcel::ReadPointer()
 {
-    return static_cast<uintptr_t>(ReadWordOr<uint64_t>(0));
+    return static_cast<uintptr_t>(Read<binder_uintptr_t>());
 }
 
 const uint8_t* Parcel::ReadBuffer(size_t length)
 {
-    if (length > GetReadableBytes() || OverlapsObject(readCursor_, length)) {
+    if (GetReadableBytes() < length || !ValidateReadData(readCursor_ + length)) {
         return nullptr;
     }
     const uint8_t* start = data_ + readCursor_;
@@ -408,7 +562,7 @@ const uint8_t* Parcel::ReadUnpadBuffer(size_t length)
 {
     const uint8_t* start = ReadBuffer(length);
     if (start != nullptr) {
-        readCursor_ = std::min(readCursor_ + (Pad4(length) - length), dataSize_);
+        SkipBytes(PadSize(length));
     }
     return start;
 }
@@ -416,51 +570,57 @@ const uint8_t* Parcel::ReadUnpadBuffer(size_t length)
 const char* Parcel::ReadCString()
 {
     const auto* start = reinterpret_cast<const char*>(data_ + readCursor_);
-    const void* end = GetReadableBytes() == 0 ? nullptr : std::memchr(start, 0, GetReadableBytes());
+    const size_t readable = GetReadableBytes();
+    const void* end = readable == 0 ? nullptr : std::memchr(start, 0, readable);
     if (end == nullptr) {
         return nullptr;
     }
-    SkipBytes(static_cast<const char*>(end) - start + 1);
+    const size_t bytes = static_cast<size_t>(static_cast<const char*>(end) - start) + 1;
+    if (!ValidateReadData(readCursor_ + bytes)) {
+        return nullptr;
+    }
+    readCursor_ += bytes;
+    SkipBytes(PadSize(bytes));
     return start;
 }
 
-// A negative length leaves the cursor after the length word; a body that is too short or not terminated puts it
-// back before the length word. The target is emptied on every failure.
 template <typename Str>
 bool Parcel::ReadText(Str& value)
 {
     using Unit = typename Str::value_type;
-    size_t start = readCursor_;
+    const size_t start = readCursor_;
     int32_t length;
-    if (!ReadWord(length) || length < 0) {
+    if (!Read(length) || length < 0 || length == INT32_MAX) {
         value.clear();
         return false;
     }
-    size_t count = static_cast<size_t>(length);
-    size_t bytes = (count + 1) * sizeof(Unit);
-    const uint8_t* body = data_ + readCursor_;
-    Unit terminator = 0;
-    if (bytes <= GetReadableBytes()) {
-        std::memcpy(&terminator, body + count * sizeof(Unit), sizeof(Unit));
-    }
-    if (bytes > GetReadableBytes() || terminator != 0 || OverlapsObject(readCursor_, bytes)) {
-        readCursor_ = start;
-        value.clear();
-        return false;
-    }
-    if constexpr (sizeof(Unit) == 1) {
-        // A string built and moved in costs less than an assignment, which must allow for overlap and growth.
-        value = std::string(reinterpret_cast<const char*>(body), count);
-    } else {
+    const size_t count = static_cast<size_t>(length);
+    const size_t bytes = (count + 1) * sizeof(Unit);
+    // bytes > count: the size of a string16 body can wrap around on 32 bits.
+    if (bytes > count && bytes <= GetReadableBytes() && ValidateReadData(readCursor_ + bytes)) {
+        const uint8_t* body = data_ + readCursor_;
+        readCursor_ += bytes;
+        SkipBytes(PadSize(bytes));
+        Unit terminator;
         // memcpy: a string16 body need not be aligned for its units.
-        value.resize(count);
-        std::memcpy(&value[0], body, count * sizeof(Unit));
+        std::memcpy(&terminator, body + count * sizeof(Unit), sizeof(Unit));
+        if (terminator == 0) {
+            if constexpr (sizeof(Unit) == 1) {
+                // A string built and moved in costs less than an assignment, which must allow for overlap and growth.
+                value = std::string(reinterpret_cast<const char*>(body), count);
+            } else {
+                value.resize(count);
+                std::memcpy(&value[0], body, count * sizeof(Unit));
+            }
+            return true;
+        }
     }
-    readCursor_ = std::min(readCursor_ + Pad4(bytes), dataSize_);
-    return true;
+    readCursor_ = start;
+    value.clear();
+    return false;
 }
 
-std::string Parcel::ReadString()
+const std::string Parcel::ReadString()
 {
     std::string value;
     ReadText(value);
@@ -472,7 +632,7 @@ bool Parcel::ReadString(std::string& value)
     return ReadText(value);
 }
 
-std::u16string Parcel::ReadString16()
+const std::u16string Parcel::ReadString16()
 {
     std::u16string value;
     ReadText(value);
@@ -486,19 +646,18 @@ bool Parcel::ReadString16(std::u16string& value)
 
 bool Parcel::ReadString16Vector(std::vector<std::u16string>* values)
 {
-    int32_t count = 0;
-    // Each text takes at least one word, so a count beyond the words left is a lie.
-    if (values == nullptr || !ReadInt32(count) || count < 0 ||
-        static_cast<size_t>(count) > GetReadableBytes() / sizeof(int32_t)) {
+    if (values == nullptr) {
         return false;
     }
-    std::vector<std::u16string> read(static_cast<size_t>(count));
-    for (std::u16string& value : read) {
-        if (!ReadString16(value)) {
-            return false;
-        }
+    // A count that cannot be read is 0: an empty list.
+    const int32_t count = ReadInt32();
+    if (count < 0 || static_cast<size_t>(count) > GetReadableBytes()) {
+        return false;
     }
-    *values = std::move(read);
+    values->resize(static_cast<size_t>(count));
+    for (std::u16string& value : *values) {
+        ReadText(value);
+    }
     return true;
 }
 

@@ -26,6 +26,7 @@
 #include <vector>
 
 #include "ipc_frame.h"
+#include "unique_fd.h"
 
 namespace {
 constexpr uint8_t DESCRIPTOR_COUNT_MASK = 0x3;

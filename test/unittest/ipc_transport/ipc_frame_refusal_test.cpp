@@ -25,6 +25,7 @@
 #include "ipc_frame.h"
 #include "ipc_host_transport.h"
 #include "transport_test_helpers.h"
+#include "unique_fd.h"
 
 namespace OHOS {
 namespace {
@@ -145,7 +146,7 @@ TEST_F(IpcFrameRefusalTest, MalformedFrameClosesItsConnectionAndLeavesNoDescript
     uint64_t nonce = 0;
     for (const RefusalCase& refusal : Cases()) {
         RawPeer peer = OpenRawPeer(path_, ++nonce, !refusal.onSession);
-        ASSERT_TRUE(peer.session.Valid() && (refusal.onSession || peer.channel.Valid())) << refusal.name;
+        ASSERT_TRUE(peer.session >= 0 && (refusal.onSession || peer.channel >= 0)) << refusal.name;
         const int socket = refusal.onSession ? peer.session.Get() : peer.channel.Get();
         int pipeFds[2];
         ASSERT_EQ(pipe(pipeFds), 0);

@@ -164,8 +164,9 @@ TEST(MessageParcelTest, RemoteObjectRecordsAreTypedByLocality)
     }
 }
 
-// A record sits between an int32 and a string; each read that would take one of its bytes as plain data fails
-// and leaves the position, on the writing side and after crossing the process boundary alike.
+// A record sits between an int32 and a string; each read that would take one of its bytes as plain data fails, on
+// the writing side and after crossing the process boundary alike: a number still moves past the bytes it refused,
+// a string is rewound.
 TEST(MessageParcelTest, PlainReadsMayNotOverlapAnObjectRecord)
 {
     sptr<IRemoteObject> stub = new Zelkon::ScriptedStub(u"test.Stub");
@@ -178,29 +179,33 @@ TEST(MessageParcelTest, PlainReadsMayNotOverlapAnObjectRecord)
 
     const struct {
         const char* name;
-        size_t position;
+        size_t from;
         std::function<bool(MessageParcel&)> read;
+        size_t position;
     } cases[] = {
         {"int32 on the record", 4,
          [](MessageParcel& p) {
              int32_t v;
              return p.ReadInt32(v);
-         }},
+         },
+         8},
         {"int64 across its start", 0,
          [](MessageParcel& p) {
              int64_t v;
              return p.ReadInt64(v);
-         }},
+         },
+         8},
         {"string whose body runs into it", 0,
          [](MessageParcel& p) {
              std::string v;
              return p.ReadString(v);
-         }},
+         },
+         0},
     };
     for (MessageParcel* parcel : {&sent, &received}) {
         for (const auto& c : cases) {
             SCOPED_TRACE(c.name);
-            ASSERT_TRUE(parcel->RewindRead(c.position));
+            ASSERT_TRUE(parcel->RewindRead(c.from));
             EXPECT_FALSE(c.read(*parcel));
             EXPECT_EQ(parcel->GetReadPosition(), c.position);
         }
@@ -210,6 +215,29 @@ TEST(MessageParcelTest, PlainReadsMayNotOverlapAnObjectRecord)
         EXPECT_NE(parcel->ReadRemoteObject(), nullptr);
         EXPECT_EQ(parcel->ReadString(), "after");
     }
+}
+
+// A rewind over a descriptor's record drops it: the parcel no longer carries it, reading it fails, and a record
+// written in its place replaces it (the dropped descriptor is closed then, not leaked).
+TEST(MessageParcelTest, ARecordDroppedByARewindIsNoLongerCarried)
+{
+    int fds[2];
+    ASSERT_EQ(pipe(fds), 0);
+    MessageParcel parcel;
+    ASSERT_TRUE(parcel.WriteFileDescriptor(fds[0]));
+    const int dropped = static_cast<int>(U64At(BytesOf(parcel), 8));
+    ASSERT_TRUE(parcel.RewindWrite(8));
+    EXPECT_FALSE(parcel.ContainFileDescriptors());
+    EXPECT_EQ(parcel.ReadFileDescriptor(), INVALID_FD);
+    ASSERT_TRUE(parcel.RewindWrite(0));
+    ASSERT_TRUE(parcel.WriteFileDescriptor(fds[1]));
+    EXPECT_FALSE(FdIsOpen(dropped));
+    EXPECT_TRUE(parcel.ContainFileDescriptors());
+    const int read = parcel.ReadFileDescriptor();
+    EXPECT_GE(read, 0);
+    close(read);
+    close(fds[0]);
+    close(fds[1]);
 }
 
 // A record that SetDataSize cut off does not travel, and the descriptor's number is not written past the copied

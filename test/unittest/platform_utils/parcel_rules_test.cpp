@@ -13,8 +13,9 @@
  * limitations under the License.
  */
 
-// What a parcel refuses and what a refusal leaves behind: short and malformed reads, writes at the limit (all or
-// nothing, except a string's length word), and a limit that only rises.
+// What a parcel refuses and what a refusal leaves behind: short and malformed reads, reads over object records,
+// writes at the limit (all or nothing, except a string's length word), and a limit that only rises; where each call
+// leaves the read position, and how the buffer grows.
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -32,43 +33,192 @@ namespace {
 using Zelkon::BytesFromHex;
 
 constexpr size_t DEFAULT_MAX = 204800;
+// A read position at the parcel's capacity, wherever that is.
+constexpr size_t AT_CAPACITY = SIZE_MAX;
 
-TEST(ParcelRulesTest, ReadsRefuseShortOrMalformedDataAndSayWhereTheyLeaveThePosition)
+// A parcel whose object record offsets a test writes, as the ipc's parcel does.
+class RecordingParcel : public Parcel {
+public:
+    using Parcel::EnsureObjectsCapacity;
+    using Parcel::WriteObjectOffset;
+};
+
+bool ReadsList(Parcel& parcel, const std::vector<std::u16string>& expected)
+{
+    std::vector<std::u16string> values{u"left over"};
+    return parcel.ReadString16Vector(&values) && values == expected;
+}
+
+TEST(ParcelRulesTest, ReadsSayWhetherTheyReadAndWhereTheyLeaveThePosition)
 {
     const struct {
         const char* name;
         std::string hex;
         std::function<bool(Parcel&)> read;
+        bool ok;
         size_t position;
     } cases[] = {
-        {"int32 from three bytes", "010203", [](Parcel& p) { return p.ReadInt32() != 0; }, 0},
-        {"int64 from one word", "01020304", [](Parcel& p) { return p.ReadInt64() != 0; }, 0},
-        {"bool from nothing", "", [](Parcel& p) { return p.ReadBool(); }, 0},
-        {"string: half a length word", "0100", [](Parcel& p) { return !p.ReadString().empty(); }, 0},
-        {"string: the null marker is left behind", "ffffffff", [](Parcel& p) { return !p.ReadString().empty(); }, 4},
+        {"int32 from three bytes", "010203", [](Parcel& p) { return p.ReadInt32() != 0; }, false, 0},
+        {"int64 from one word", "01020304", [](Parcel& p) { return p.ReadInt64() != 0; }, false, 0},
+        {"bool from nothing", "", [](Parcel& p) { return p.ReadBool(); }, false, 0},
+        {"string: half a length word", "0100", [](Parcel& p) { return !p.ReadString().empty(); }, false, 0},
+        {"string: the null marker is left behind", "ffffffff", [](Parcel& p) { return !p.ReadString().empty(); }, false,
+         4},
         {"string: the most negative length is left behind", "00000080",
-         [](Parcel& p) { return !p.ReadString().empty(); }, 4},
+         [](Parcel& p) { return !p.ReadString().empty(); }, false, 4},
+        {"string: length INT32_MAX is left behind", "ffffff7f61620000",
+         [](Parcel& p) { return !p.ReadString().empty(); }, false, 4},
+        {"string16: length INT32_MAX is left behind", "ffffff7f61620000",
+         [](Parcel& p) { return !p.ReadString16().empty(); }, false, 4},
         {"string: a length beyond the data is rewound", "0500000061620000",
-         [](Parcel& p) { return !p.ReadString().empty(); }, 0},
-        {"string: length INT32_MAX is rewound", "ffffff7f61620000", [](Parcel& p) { return !p.ReadString().empty(); },
-         0},
+         [](Parcel& p) { return !p.ReadString().empty(); }, false, 0},
         {"string: no room for the terminator is rewound", "0400000061626364",
-         [](Parcel& p) { return !p.ReadString().empty(); }, 0},
+         [](Parcel& p) { return !p.ReadString().empty(); }, false, 0},
         {"string: a non-zero terminator is rewound", "0200000061626300",
-         [](Parcel& p) { return !p.ReadString().empty(); }, 0},
+         [](Parcel& p) { return !p.ReadString().empty(); }, false, 0},
         {"string16: half a terminator is rewound", "020000006100620000",
-         [](Parcel& p) { return !p.ReadString16().empty(); }, 0},
+         [](Parcel& p) { return !p.ReadString16().empty(); }, false, 0},
         {"string16: a non-zero terminator is rewound", "020000006100620063000000",
-         [](Parcel& p) { return !p.ReadString16().empty(); }, 0},
-        {"buffer beyond the data", "61626364", [](Parcel& p) { return p.ReadBuffer(5) != nullptr; }, 0},
+         [](Parcel& p) { return !p.ReadString16().empty(); }, false, 0},
+        {"string without its padding ends at the capacity", "010000006100",
+         [](Parcel& p) { return p.ReadString() == "a"; }, true, AT_CAPACITY},
+        {"buffer beyond the data", "61626364", [](Parcel& p) { return p.ReadBuffer(5) != nullptr; }, false, 0},
+        {"unpadded buffer of the last bytes ends at the capacity", "616263",
+         [](Parcel& p) { return p.ReadUnpadBuffer(3) != nullptr; }, true, AT_CAPACITY},
+        {"unpadded buffer followed by its padding", "61626300",
+         [](Parcel& p) { return p.ReadUnpadBuffer(3) != nullptr; }, true, 4},
+        {"skip within the data is not rounded up", "6162636465",
+         [](Parcel& p) {
+             p.SkipBytes(3);
+             return true;
+         },
+         true, 3},
+        {"skip past the end goes to the capacity", "61626364",
+         [](Parcel& p) {
+             p.SkipBytes(5);
+             return p.GetReadableBytes() == 0;
+         },
+         true, AT_CAPACITY},
+        {"string16 list: a text that fails is left empty", "020000000100000061000000050000006200",
+         [](Parcel& p) {
+             return ReadsList(p, {u"a", u""});
+         },
+         true, 12},
+        {"string16 list: a count above the words but within the bytes", "0300000000000000",
+         [](Parcel& p) {
+             return ReadsList(p, {u"", u"", u""});
+         },
+         true, 4},
+        {"string16 list: a count above the bytes", "0500000000000000", [](Parcel& p) { return ReadsList(p, {}); },
+         false, 4},
+        {"string16 list: no count is an empty list", "", [](Parcel& p) { return ReadsList(p, {}); }, true, 0},
+        {"rewinding the writes leaves the read position", "0100000002000000",
+         [](Parcel& p) { return p.ReadInt64() != 0 && p.RewindWrite(4) && p.GetDataSize() == 4; }, true, 8},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         Parcel parcel;
         LoadBytes(parcel, BytesFromHex(c.hex));
-        EXPECT_FALSE(c.read(parcel));
+        EXPECT_EQ(c.read(parcel), c.ok);
+        EXPECT_EQ(parcel.GetReadPosition(), c.position == AT_CAPACITY ? parcel.GetDataCapacity() : c.position);
+    }
+}
+
+// An int32 (7), a record at 4, an int32 (9) at 28. A plain read that would take a byte of the record fails and
+// still moves past the bytes it refused; a buffer or a string stays or is rewound.
+TEST(ParcelRulesTest, PlainReadsMayNotTakeAByteOfAnObjectRecord)
+{
+    const struct {
+        const char* name;
+        size_t from;
+        std::function<bool(Parcel&)> read;
+        bool ok;
+        size_t position;
+    } cases[] = {
+        {"int32 before it", 0, [](Parcel& p) { return p.ReadInt32() == 7; }, true, 4},
+        {"int32 on it", 4, [](Parcel& p) { return p.ReadInt32() != 0; }, false, 8},
+        {"int64 across its start", 0, [](Parcel& p) { return p.ReadInt64() != 0; }, false, 8},
+        {"int32 on its last word", 24, [](Parcel& p) { return p.ReadInt32() != 0; }, false, 28},
+        {"int32 after it", 28, [](Parcel& p) { return p.ReadInt32() == 9; }, true, 32},
+        {"buffer across it", 0, [](Parcel& p) { return p.ReadBuffer(12) != nullptr; }, false, 0},
+        {"empty buffer inside it", 8, [](Parcel& p) { return p.ReadBuffer(0) != nullptr; }, false, 8},
+        {"string whose body runs into it", 0, [](Parcel& p) { return !p.ReadString().empty(); }, false, 0},
+        {"the record itself", 4, [](Parcel& p) { return p.CheckOffsets(); }, true, 4},
+        {"no record here", 0, [](Parcel& p) { return p.CheckOffsets(); }, false, 0},
+        {"a rewind into it drops it", 4,
+         [](Parcel& p) { return p.RewindWrite(8) && p.GetOffsetsSize() == 0 && p.ReadInt32() == 0; }, true, 8},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        RecordingParcel parcel;
+        ASSERT_TRUE(parcel.WriteInt32(7) && parcel.EnsureObjectsCapacity());
+        const std::vector<uint8_t> record(24, 0);
+        ASSERT_TRUE(parcel.WriteBuffer(record.data(), record.size()) && parcel.WriteObjectOffset(4));
+        ASSERT_TRUE(parcel.WriteInt32(9) && parcel.RewindRead(c.from));
+        EXPECT_EQ(c.read(parcel), c.ok);
         EXPECT_EQ(parcel.GetReadPosition(), c.position);
     }
+}
+
+TEST(ParcelRulesTest, AnObjectOffsetIsRecordedOnceWithinTheDataInTheRoomMadeForIt)
+{
+    RecordingParcel parcel;
+    const std::vector<uint8_t> data(48, 0);
+    ASSERT_TRUE(parcel.WriteBuffer(data.data(), data.size()));
+    EXPECT_FALSE(parcel.WriteObjectOffset(0));
+    ASSERT_TRUE(parcel.EnsureObjectsCapacity());
+    EXPECT_TRUE(parcel.WriteObjectOffset(8));
+    EXPECT_FALSE(parcel.WriteObjectOffset(8));
+    EXPECT_FALSE(parcel.WriteObjectOffset(52));
+    EXPECT_TRUE(parcel.WriteObjectOffset(16));
+    EXPECT_TRUE(parcel.WriteObjectOffset(0));
+    ASSERT_TRUE(parcel.EnsureObjectsCapacity());
+    EXPECT_FALSE(parcel.WriteObjectOffset(16));
+    ASSERT_EQ(parcel.GetOffsetsSize(), 3u);
+    const auto* offsets = reinterpret_cast<const binder_size_t*>(static_cast<uintptr_t>(parcel.GetObjectOffsets()));
+    EXPECT_EQ(std::vector<binder_size_t>(offsets, offsets + 3), (std::vector<binder_size_t>{8, 16, 0}));
+    EXPECT_TRUE(parcel.RewindRead(0) && parcel.CheckOffsets());
+    EXPECT_FALSE(parcel.RewindRead(4) && parcel.CheckOffsets());
+}
+
+// Doubling from 64 bytes up to 4 KiB, then steps of 4 KiB up to the maximum.
+TEST(ParcelRulesTest, TheBufferGrowsByDoublingThenInStepsOf4KiB)
+{
+    const struct {
+        const char* name;
+        size_t written;
+        size_t capacity;
+    } cases[] = {
+        {"one word", 4, 64},
+        {"65 bytes", 68, 128},
+        {"4 KiB", 4096, 4096},
+        {"a word past 4 KiB", 4100, 8192},
+        {"200,000 bytes", 200000, 200704},
+        {"the maximum", DEFAULT_MAX, DEFAULT_MAX},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Parcel words;
+        Parcel buffer;
+        const std::vector<uint8_t> bytes(c.written, 1);
+        for (size_t i = 0; i < c.written / 4; ++i) {
+            ASSERT_TRUE(words.WriteInt32(1));
+        }
+        ASSERT_TRUE(buffer.WriteBuffer(bytes.data(), bytes.size()));
+        EXPECT_EQ(words.GetDataCapacity(), c.capacity);
+        EXPECT_EQ(buffer.GetDataCapacity(), c.capacity);
+    }
+}
+
+TEST(ParcelRulesTest, TheCapacityIsSetOnlyAboveTheDataAndAnInt64TakesTheNextTwoWords)
+{
+    Parcel parcel;
+    ASSERT_TRUE(parcel.WriteInt32(1) && parcel.WriteInt64(0x0102030405060708LL));
+    EXPECT_EQ(BytesOf(parcel), BytesFromHex("010000000807060504030201"));
+    EXPECT_FALSE(parcel.SetDataCapacity(12));
+    EXPECT_EQ(parcel.GetDataCapacity(), 64u);
+    EXPECT_TRUE(parcel.SetDataCapacity(13));
+    EXPECT_EQ(parcel.GetDataCapacity(), 13u);
 }
 
 TEST(ParcelRulesTest, WritesAtTheLimitAreAllOrNothingExceptAStringsLengthWord)

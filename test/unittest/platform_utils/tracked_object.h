@@ -29,6 +29,7 @@ namespace OHOS {
 struct Lifecycle {
     std::atomic<int> firstStrong{0};
     std::atomic<int> lastStrong{0};
+    std::atomic<int> lastWeak{0};
     std::atomic<int> destroyed{0};
 };
 
@@ -45,6 +46,7 @@ public:
 
     void OnFirstStrongRef(const void*) override { ++lifecycle_.firstStrong; }
     void OnLastStrongRef(const void*) override { ++lifecycle_.lastStrong; }
+    void OnLastWeakRef(const void*) override { ++lifecycle_.lastWeak; }
 
     // ALIVE until the destructor ran.
     int State() const { return state_; }
