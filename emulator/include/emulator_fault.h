@@ -34,9 +34,11 @@ struct EmulatorFault {
         LOAD_DELAYED,         // the next load answers after `value` milliseconds
         DIES_AFTER_REQUESTS,  // the share service process dies right after answering `value` more requests
         DIES_IN_REQUEST,      // it dies in the middle of its next request with code `value`: no reply
+        STALLS_IN_REQUEST,    // it stalls in its next request with code `value` until its watchdog ends it
         HOSTILE_COUNT,        // the next list reply counts more records than the bound of 1000
         TRUNCATED_RECORD,     // the next reply that carries records ends in the middle of its last record
         OVERSIZED_BIG_STRING, // the next big string reply (the preview data) is above its limit of 5 MiB
+        OVERSIZED_REPLY,      // the next reply of the share service does not fit the caller's binder buffer
     };
 
     Kind kind = Kind::LOAD_FAILS;

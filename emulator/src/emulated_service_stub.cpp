@@ -35,6 +35,8 @@ namespace {
 constexpr size_t TRUNCATED_BYTES = 4;
 // Long enough for a reply to leave before its process ends.
 constexpr auto REPLY_GRACE = std::chrono::milliseconds(50);
+// How long a stalled request blocks before the service's watchdog ends its process, as a device's does (shorter).
+constexpr auto STALL_LIMIT = std::chrono::seconds(2);
 
 std::vector<uint8_t> BytesOf(const MessageParcel& parcel)
 {
@@ -80,13 +82,20 @@ int EmulatedServiceStub::OnRemoteRequest(uint32_t code, MessageParcel& data, Mes
     decoded.service = serviceName_;
     decoded.code = code;
     const FaultPlan::Death death = Faults().OnRequest(systemAbilityId_, code);
-    if (death == FaultPlan::Death::BEFORE_REPLY) {
+    if (death == FaultPlan::Death::STALLED) {
+        EMULATOR_LOGI("%{public}s: stalls in request %{public}u, as a fault asked", serviceName_.c_str(), code);
+        std::this_thread::sleep_for(STALL_LIMIT);
+    }
+    if (death == FaultPlan::Death::BEFORE_REPLY || death == FaultPlan::Death::STALLED) {
         auto operation = operations_.find(code);
         decoded.operation = operation != operations_.end() ? operation->second.name : "";
-        decoded.notes.emplace_back("fault", "the process died in the middle of this request");
+        decoded.notes.emplace_back("fault", death == FaultPlan::Death::STALLED
+                                                ? "the process stalled in this request until its watchdog ended it"
+                                                : "the process died in the middle of this request");
         decoded.result = ERR_DEAD_OBJECT;
     } else {
         decoded.result = Dispatch(code, data, reply, decoded);
+        PadIfOversizeArmed(reply, decoded);
     }
     if (death == FaultPlan::Death::AFTER_REPLY) {
         decoded.notes.emplace_back("fault", "the process died after this reply");
@@ -114,6 +123,17 @@ nlohmann::ordered_json EmulatedServiceStub::Dump()
                             {"count", count}});
     }
     return dump;
+}
+
+void EmulatedServiceStub::PadIfOversizeArmed(MessageParcel& reply, DecodedRequest& decoded)
+{
+    if (!Faults().Take(EmulatorFault::Kind::OVERSIZED_REPLY)) {
+        return;
+    }
+    const std::vector<uint8_t> padding(OVERSIZED_REPLY_PADDING);
+    reply.SetMaxCapacity(reply.GetDataSize() + padding.size());
+    reply.WriteUnpadBuffer(padding.data(), padding.size());
+    decoded.notes.emplace_back("fault", "the reply was padded with " + std::to_string(padding.size()) + " bytes");
 }
 
 void EmulatedServiceStub::CutIfTruncationArmed(ReplyWriter& writer)
@@ -159,7 +179,7 @@ void EmulatedServiceStub::Die(FaultPlan::Death death)
         SamgrHostControl::KillSystemAbility(systemAbilityId_);
         return;
     }
-    if (death == FaultPlan::Death::BEFORE_REPLY) {
+    if (death == FaultPlan::Death::BEFORE_REPLY || death == FaultPlan::Death::STALLED) {
         raise(SIGKILL);
     }
     ending_ = true;

@@ -109,6 +109,8 @@ protected:
 private:
     // One above the bound that readers of a list reply keep.
     static constexpr int32_t HOSTILE_LIST_COUNT = 1001;
+    // A device's binder buffer: 1 MiB less two pages.
+    static constexpr size_t OVERSIZED_REPLY_PADDING = 1024 * 1024 - 2 * 4096;
 
     struct Operation {
         const char* name;
@@ -117,6 +119,8 @@ private:
 
     int Dispatch(uint32_t code, MessageParcel& data, MessageParcel& reply, DecodedRequest& decoded);
     void Die(FaultPlan::Death death);
+    // Plays an armed oversized-reply fault on a reply that was written.
+    void PadIfOversizeArmed(MessageParcel& reply, DecodedRequest& decoded);
 
     const std::u16string token_;
     const std::string serviceName_;

@@ -41,9 +41,11 @@ const std::vector<Form> FORMS = {
     {"load-delay", Kind::LOAD_DELAYED, Form::Number::REQUIRED, 0, MAX_LOAD_DELAY_MS},
     {"die-after", Kind::DIES_AFTER_REQUESTS, Form::Number::REQUIRED, 1, UINT32_MAX},
     {"die-in", Kind::DIES_IN_REQUEST, Form::Number::REQUIRED, 1, LAST_SHARE_SERVICE_CODE},
+    {"stall-in", Kind::STALLS_IN_REQUEST, Form::Number::REQUIRED, 1, LAST_SHARE_SERVICE_CODE},
     {"hostile-count", Kind::HOSTILE_COUNT, Form::Number::NONE, 0, 0},
     {"truncated-record", Kind::TRUNCATED_RECORD, Form::Number::NONE, 0, 0},
     {"big-string", Kind::OVERSIZED_BIG_STRING, Form::Number::NONE, 0, 0},
+    {"oversized-reply", Kind::OVERSIZED_REPLY, Form::Number::NONE, 0, 0},
 };
 
 bool ParseNumber(const std::string& text, uint32_t& value)
@@ -60,9 +62,12 @@ const char* const EmulatorFault::GRAMMAR =
     "  die-after:N         the share service process dies right after answering N more requests\n"
     "  die-in:CODE         the share service process dies in the middle of its next request with code CODE\n"
     "                      (1 to 27): the caller gets no reply\n"
+    "  stall-in:CODE       the share service stalls in its next request with code CODE until its watchdog ends\n"
+    "                      its process 2 s later: the caller waits, then gets no reply\n"
     "  hostile-count       the next list reply counts 1001 records, above the bound of 1000\n"
     "  truncated-record    the next reply that carries records ends in the middle of its last record\n"
-    "  big-string          the next preview data reply is a big string above its limit of 5 MiB\n";
+    "  big-string          the next preview data reply is a big string above its limit of 5 MiB\n"
+    "  oversized-reply     the next reply of the share service is larger than the caller's binder buffer\n";
 
 std::optional<EmulatorFault> EmulatorFault::Parse(const std::string& text, std::string& error)
 {

@@ -30,6 +30,9 @@ void FaultPlan::Arm(const EmulatorFault& fault)
     case EmulatorFault::Kind::DIES_IN_REQUEST:
         deathCode_ = fault.value;
         break;
+    case EmulatorFault::Kind::STALLS_IN_REQUEST:
+        stallCode_ = fault.value;
+        break;
     default:
         ++pendingReplies_[fault.kind];
         break;
@@ -42,6 +45,7 @@ void FaultPlan::Clear()
     pendingReplies_.clear();
     requestsBeforeDeath_.reset();
     deathCode_.reset();
+    stallCode_.reset();
 }
 
 FaultPlan::Death FaultPlan::OnRequest(int32_t systemAbilityId, uint32_t code)
@@ -53,6 +57,10 @@ FaultPlan::Death FaultPlan::OnRequest(int32_t systemAbilityId, uint32_t code)
     if (deathCode_ == code) {
         deathCode_.reset();
         return Death::BEFORE_REPLY;
+    }
+    if (stallCode_ == code) {
+        stallCode_.reset();
+        return Death::STALLED;
     }
     if (requestsBeforeDeath_.has_value() && --*requestsBeforeDeath_ == 0) {
         requestsBeforeDeath_.reset();

@@ -33,7 +33,8 @@ namespace Zelkon {
 
 class FaultPlan {
 public:
-    enum class Death { NONE, BEFORE_REPLY, AFTER_REPLY };
+    // A stalled request ends as one that died before its reply, once the service's watchdog has ended the process.
+    enum class Death { NONE, STALLED, BEFORE_REPLY, AFTER_REPLY };
 
     // Death and reply faults; load faults are scripted in the system ability manager instead.
     void Arm(const EmulatorFault& fault);
@@ -48,6 +49,7 @@ private:
     std::map<EmulatorFault::Kind, uint32_t> pendingReplies_;
     std::optional<uint32_t> requestsBeforeDeath_;
     std::optional<uint32_t> deathCode_;
+    std::optional<uint32_t> stallCode_;
 };
 
 } // namespace Zelkon

@@ -49,6 +49,9 @@ public:
     // The pid of the process behind a proxy of this transport, as it said in its hello and the kernel confirmed,
     // or -1.
     static pid_t PeerPid(const sptr<IRemoteObject>& object);
+    // Whether the process behind a proxy of the host ended, as the host knows at once: IsObjectDead() answers so only
+    // once a death notice has reached a registered proxy.
+    static bool HasProcessEnded(const sptr<IRemoteObject>& object);
     // Waits until no session with the process pid is left and every death notice their ends caused in this
     // process has run. False if that takes longer than the timeout.
     static bool WaitForPeerGone(pid_t pid, std::chrono::milliseconds timeout);

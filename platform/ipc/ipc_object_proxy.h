@@ -15,12 +15,13 @@
 
 /*
  * Host: the remote object that stands for a local object living "in another process". Transactions cross the
- * process boundary (the request and the reply are copied as the driver would), death recipients are kept, and
- * the process can be killed, after which every recipient is told once on an IPC thread.
+ * process boundary as the driver takes them (the request and the reply are copied, within the binder buffers of
+ * the receiving sides), death recipients are kept as the driver keeps them, and the process can be killed.
  */
 #ifndef OHOS_IPC_IPC_OBJECT_PROXY_H
 #define OHOS_IPC_IPC_OBJECT_PROXY_H
 
+#include <memory>
 #include <mutex>
 #include <string>
 #include <vector>
@@ -28,6 +29,9 @@
 #include "iremote_object.h"
 
 namespace OHOS {
+
+class BinderBuffer;
+class DeathNotice;
 
 class IPCObjectProxy : public IRemoteObject {
 public:
@@ -45,9 +49,12 @@ public:
     // The object as the in-process world's proxy, or null if it is none.
     static IPCObjectProxy* InProcessOf(IRemoteObject* object);
 
-    // The process of the target died: later requests fail with ERR_DEAD_OBJECT and the recipients are told on an
-    // IPC thread. Returns once they have been told, unless called on an IPC thread (it would wait for itself).
+    // The process of the target died: a call in progress and later ones answer BR_DEAD_REPLY, and the death notice
+    // goes to a registered proxy on an IPC thread, after which calls answer ERR_DEAD_OBJECT. Returns once the notice
+    // has run, unless called on an IPC thread (it would wait for itself).
     void Kill();
+    // Whether Kill was called: the host's own knowledge, ahead of any notice.
+    bool HasProcessEnded() const;
     void RefuseDeathRecipients(bool refuse);
 
 private:
@@ -55,9 +62,10 @@ private:
 
     mutable std::mutex mutex_;
     sptr<IRemoteObject> target_;
-    bool dead_ = false;
     bool refuseDeathRecipients_ = false;
-    std::vector<sptr<DeathRecipient>> recipients_;
+    const std::unique_ptr<DeathNotice> notice_;
+    // The target's process's buffer, which requests to it take.
+    const std::shared_ptr<BinderBuffer> targetBuffer_;
 };
 
 } // namespace OHOS

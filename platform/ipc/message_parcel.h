@@ -23,6 +23,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -40,7 +41,8 @@ public:
     ~MessageParcel() override;
 
     bool WriteRemoteObject(const sptr<IRemoteObject>& object);
-    // Succeeds only at the offset of a record written by WriteRemoteObject; the cursor stays put otherwise.
+    // Succeeds only at the offset of a record written by WriteRemoteObject; a descriptor's record there is passed
+    // over, and elsewhere the cursor stays put.
     sptr<IRemoteObject> ReadRemoteObject();
 
     // Carries a dup of fd; the parcel closes its copies when destroyed.
@@ -60,13 +62,14 @@ public:
     size_t GetRawDataSize() const;
     size_t GetRawDataCapacity() const;
 
-    bool WriteNoException();
+    void WriteNoException();
     int32_t ReadException();
 
     static constexpr size_t MAX_INLINE_RAW_DATA_SIZE = 32768;
     static constexpr size_t MAX_RAW_DATA_SIZE = 128 * 1024 * 1024;
 
 private:
+    friend class BinderBuffer;
     friend class ParcelRecords;
 
     enum class CarriedKind { OBJECT, FD };
@@ -79,7 +82,8 @@ private:
     bool WriteRecord(uint32_t type, uint64_t value, const Carried& carried);
     // What the record at offset carries; it replaces what a record dropped there carried.
     void Carry(size_t offset, Carried carried);
-    const Carried* CarriedAtReadPosition(CarriedKind kind);
+    // What the record at the read position carries, then past it; null (the cursor kept) if no record is there.
+    const Carried* RecordAtReadPosition();
     bool WriteSharedMemoryBlock(const void* data, size_t size);
     const void* MapSharedMemoryBlock(size_t size);
 
@@ -90,6 +94,8 @@ private:
     std::vector<std::pair<void*, size_t>> mappings_;
     const void* rawData_ = nullptr;
     size_t rawDataSize_ = 0;
+    // Host: the space a received parcel takes in its receiver's binder buffer, given back when the parcel goes.
+    std::shared_ptr<const size_t> bufferSpace_;
 };
 
 } // namespace OHOS

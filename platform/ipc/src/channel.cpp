@@ -24,8 +24,8 @@ namespace OHOS {
 
 Channel::Channel(UniqueFd socket) : socket_(std::move(socket)) {}
 
-int Channel::Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds,
-                  FrameSocket::Clock::time_point deadline, IpcFrame* reply)
+int Channel::Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds, FrameSocket::Deadline deadline,
+                  IpcFrame* reply)
 {
     int socket = -1;
     {
@@ -37,9 +37,12 @@ int Channel::Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds
         socket = socket_.Get();
     }
     // A peer that stops reading holds a send, and a peer that does not answer the read of its reply, no longer than
-    // the caller waits (a zero timeout would be no timeout at all).
-    const auto waitTime = std::max(std::chrono::ceil<std::chrono::seconds>(deadline - FrameSocket::Clock::now()),
-                                   std::chrono::seconds(1));
+    // the caller waits: as long as it takes without a deadline (a zero timeout is none), at least a second with one.
+    const auto waitTime =
+        deadline.has_value()
+            ? std::max(std::chrono::ceil<std::chrono::seconds>(*deadline - FrameSocket::Clock::now()),
+                       std::chrono::seconds(1))
+            : std::chrono::seconds(0);
     if (waitTime != timeout_) {
         FrameSocket::SetTimeouts(socket, waitTime);
         timeout_ = waitTime;

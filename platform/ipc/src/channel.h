@@ -34,9 +34,10 @@ class Channel {
 public:
     explicit Channel(UniqueFd socket);
 
-    // Sends the frame and, with reply given, waits for the answer until the deadline. ERR_NONE, ERR_TIMED_OUT,
-    // ERR_DEAD_OBJECT (closed or broken) or ERR_INVALID_REPLY (not a reply); on any failure the channel is closed.
-    int Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds, FrameSocket::Clock::time_point deadline,
+    // Sends the frame and, with reply given, waits for the answer until the deadline, or without one as long as it
+    // takes (the peer answers, or its end retires the channel). ERR_NONE, ERR_TIMED_OUT, ERR_DEAD_OBJECT (closed or
+    // broken) or ERR_INVALID_REPLY (not a reply); on any failure the channel is closed.
+    int Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds, FrameSocket::Deadline deadline,
              IpcFrame* reply);
     // The reply was refused after it was read: the channel can no longer be trusted.
     void Close();
@@ -48,7 +49,8 @@ private:
     UniqueFd socket_;
     bool inCall_ = false;
     bool retired_ = false;
-    std::chrono::seconds timeout_{0};
+    // The socket's send and receive timeouts; none known until the first call sets them.
+    std::chrono::seconds timeout_{-1};
 };
 
 } // namespace OHOS

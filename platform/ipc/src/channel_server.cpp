@@ -20,6 +20,8 @@
 #include <mutex>
 #include <vector>
 
+#include "binder_buffer.h"
+#include "binder_results.h"
 #include "export_table.h"
 #include "frame_socket.h"
 #include "ipc_log.h"
@@ -104,6 +106,21 @@ bool AnswerAcquire(const Session& session, int socket, const IpcFrame& request)
     return true;
 }
 
+// The result of the request and its reply, as the driver carries them: a status only with an empty reply (a stub
+// that wrote its reply has answered), and BR_FAILED_REPLY for a reply that no binder buffer holds.
+int WriteReply(int result, const MessageParcel& reply, Session& to, IpcFrame& answer, std::vector<uint8_t>& bytes,
+               std::vector<int>& fds)
+{
+    if (result != ERR_NONE && reply.GetDataSize() == 0) {
+        return result;
+    }
+    if (BinderBuffer::SpaceOf(reply) > BinderBuffer::SIZE) {
+        IPC_HOST_LOGE("a reply of %{public}zu bytes does not fit a binder buffer", reply.GetDataSize());
+        return BR_FAILED_REPLY;
+    }
+    return ParcelWire::ToFrame(reply, to, answer, bytes, fds);
+}
+
 bool AnswerTransaction(const std::shared_ptr<Session>& session, int socket, IpcFrame& request)
 {
     sptr<IRemoteObject> target = ExportTable::OfProcess().Find(request.handle);
@@ -112,15 +129,26 @@ bool AnswerTransaction(const std::shared_ptr<Session>& session, int socket, IpcF
                       session->PeerPid(), static_cast<unsigned long long>(request.handle));
         return false;
     }
+    BinderBuffer::Space space =
+        BinderBuffer::OfProcess()->Take(BinderBuffer::SpaceOf(request.DataSize(), request.objects.size()));
+    // A request that does not fit is still taken apart, so that the references it carried are given back.
     MessageParcel data;
-    if (!ParcelWire::ToParcel(request, session, &SessionProxy::Import, data) || !RunningRequests::OfProcess().Enter()) {
+    MessageParcel dropped;
+    if (!ParcelWire::ToParcel(request, session, &SessionProxy::Import, space != nullptr ? data : dropped)) {
         return false;
     }
+    int result = BR_FAILED_REPLY;
     MessageParcel reply;
-    MessageOption option(static_cast<int>(request.flags));
-    const int result = request.code == IpcFrame::DUMP_CODE ? DumpTo(*target, data)
-                                                           : target->SendRequest(request.code, data, reply, option);
-    RunningRequests::OfProcess().Leave();
+    if (space != nullptr) {
+        BinderBuffer::KeepWith(data, std::move(space));
+        if (!RunningRequests::OfProcess().Enter()) {
+            return false;
+        }
+        MessageOption option(static_cast<int>(request.flags));
+        result = request.code == IpcFrame::DUMP_CODE ? DumpTo(*target, data)
+                                                     : target->SendRequest(request.code, data, reply, option);
+        RunningRequests::OfProcess().Leave();
+    }
     if ((request.flags & MessageOption::TF_ASYNC) != 0) {
         return true;
     }
@@ -128,13 +156,12 @@ bool AnswerTransaction(const std::shared_ptr<Session>& session, int socket, IpcF
     answer.kind = IpcFrame::Kind::REPLY;
     std::vector<uint8_t> bytes;
     std::vector<int> fds;
-    // A failed request is answered with its result alone.
-    answer.status = result != ERR_NONE ? result : ParcelWire::ToFrame(reply, *session, answer, bytes, fds);
+    answer.status = WriteReply(result, reply, *session, answer, bytes, fds);
     if (answer.status != ERR_NONE) {
         bytes = answer.Encode(nullptr, 0, 0);
     }
     if (!FrameSocket::Send(socket, bytes, fds)) {
-        // The caller gave up (its wait time passed) or went away: what the reply carried never reached it.
+        // The caller went away: what the reply carried never reached it.
         ParcelWire::Unexport(answer, *session);
         return false;
     }

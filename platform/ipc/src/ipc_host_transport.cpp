@@ -25,6 +25,7 @@
 #include "channel_server.h"
 #include "export_table.h"
 #include "frame_socket.h"
+#include "ipc_object_proxy.h"
 #include "ipc_log.h"
 #include "listener.h"
 #include "session_proxy.h"
@@ -143,6 +144,15 @@ pid_t IpcHostTransport::PeerPid(const sptr<IRemoteObject>& object)
 {
     const ImportedHandle* imported = SessionProxy::ImportedOf(object.GetRefPtr());
     return imported != nullptr && imported->session != nullptr ? imported->session->PeerPid() : -1;
+}
+
+bool IpcHostTransport::HasProcessEnded(const sptr<IRemoteObject>& object)
+{
+    if (IPCObjectProxy* inProcess = IPCObjectProxy::InProcessOf(object.GetRefPtr())) {
+        return inProcess->HasProcessEnded();
+    }
+    const ImportedHandle* imported = SessionProxy::ImportedOf(object.GetRefPtr());
+    return imported != nullptr && (imported->session == nullptr || !imported->session->IsAlive());
 }
 
 bool IpcHostTransport::WaitForPeerGone(pid_t pid, std::chrono::milliseconds timeout)

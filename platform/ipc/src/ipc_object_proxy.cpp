@@ -15,11 +15,13 @@
 
 #include "ipc_object_proxy.h"
 
-#include <algorithm>
 #include <chrono>
 #include <future>
 #include <memory>
 
+#include "binder_buffer.h"
+#include "binder_results.h"
+#include "death_notice.h"
 #include "ipc_log.h"
 #include "ipc_threads.h"
 #include "process_boundary.h"
@@ -28,10 +30,25 @@ namespace OHOS {
 namespace {
 // Only a recipient that never returns makes a kill wait this long; the process then goes on without it.
 constexpr std::chrono::seconds DEATH_NOTICE_WAIT{10};
+
+// The copy of a parcel that a receiving process gets in its binder buffer; BR_FAILED_REPLY if it does not fit.
+int CopyInto(BinderBuffer& buffer, const MessageParcel& from, MessageParcel& to)
+{
+    BinderBuffer::Space space = buffer.Take(BinderBuffer::SpaceOf(from));
+    if (space == nullptr) {
+        return BR_FAILED_REPLY;
+    }
+    if (!ProcessBoundary::Copy(from, to)) {
+        return ERR_FLATTEN_OBJECT;
+    }
+    BinderBuffer::KeepWith(to, std::move(space));
+    return ERR_NONE;
+}
 } // namespace
 
 IPCObjectProxy::IPCObjectProxy(const sptr<IRemoteObject>& target) :
-    IRemoteObject(target != nullptr ? target->GetObjectDescriptor() : std::u16string()), target_(target)
+    IRemoteObject(target != nullptr ? target->GetObjectDescriptor() : std::u16string()), target_(target),
+    notice_(std::make_unique<DeathNotice>(*this)), targetBuffer_(std::make_shared<BinderBuffer>())
 {
 }
 
@@ -48,7 +65,7 @@ IPCObjectProxy* IPCObjectProxy::InProcessOf(IRemoteObject* object)
 sptr<IRemoteObject> IPCObjectProxy::Target() const
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    return dead_ ? nullptr : target_;
+    return target_;
 }
 
 int32_t IPCObjectProxy::GetObjectRefCount()
@@ -65,12 +82,13 @@ int IPCObjectProxy::SendRequest(uint32_t code, MessageParcel& data, MessageParce
     }
     sptr<IRemoteObject> target = Target();
     if (target == nullptr) {
-        IPC_HOST_LOGW("code %{public}u sent to a dead object", code);
-        return ERR_DEAD_OBJECT;
+        IPC_HOST_LOGW("code %{public}u sent to an object whose process ended", code);
+        return notice_->DeadResult();
     }
     auto request = std::make_shared<MessageParcel>();
-    if (!ProcessBoundary::Copy(data, *request)) {
-        return ERR_FLATTEN_OBJECT;
+    int result = CopyInto(*targetBuffer_, data, *request);
+    if (result != ERR_NONE) {
+        return result;
     }
     if ((option.GetFlags() & MessageOption::TF_ASYNC) != 0) {
         // One-way: the other process handles it on one of its IPC threads; nothing comes back.
@@ -81,17 +99,21 @@ int IPCObjectProxy::SendRequest(uint32_t code, MessageParcel& data, MessageParce
         return ERR_NONE;
     }
     MessageParcel answer;
-    const int result = target->SendRequest(code, *request, answer, option);
-    if (result != ERR_NONE) {
+    result = target->SendRequest(code, *request, answer, option);
+    if (HasProcessEnded()) {
+        IPC_HOST_LOGW("the process of the target of code %{public}u ended during the call", code);
+        return BR_DEAD_REPLY;
+    }
+    // The driver carries a status only with an empty reply: a stub that wrote its reply has answered.
+    if (result != ERR_NONE && answer.GetDataSize() == 0) {
         return result;
     }
-    return ProcessBoundary::Copy(answer, reply) ? ERR_NONE : ERR_INVALID_REPLY;
+    return CopyInto(*BinderBuffer::OfProcess(), answer, reply);
 }
 
 bool IPCObjectProxy::IsObjectDead() const
 {
-    std::lock_guard<std::mutex> lock(mutex_);
-    return dead_;
+    return notice_->IsDead();
 }
 
 bool IPCObjectProxy::AddDeathRecipient(const sptr<DeathRecipient>& recipient)
@@ -99,63 +121,46 @@ bool IPCObjectProxy::AddDeathRecipient(const sptr<DeathRecipient>& recipient)
     if (recipient == nullptr) {
         return false;
     }
-    std::lock_guard<std::mutex> lock(mutex_);
-    if (dead_ || refuseDeathRecipients_) {
-        IPC_HOST_LOGE("death recipient refused (dead %{public}d)", dead_);
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        if (refuseDeathRecipients_) {
+            IPC_HOST_LOGE("death recipient refused, as the host was told to");
+            return false;
+        }
+    }
+    if (!notice_->Add(recipient)) {
+        IPC_HOST_LOGE("death recipient refused: the object is dead");
         return false;
     }
-    recipients_.push_back(recipient);
     return true;
 }
 
 bool IPCObjectProxy::RemoveDeathRecipient(const sptr<DeathRecipient>& recipient)
 {
-    if (recipient == nullptr) {
-        return false;
-    }
-    std::lock_guard<std::mutex> lock(mutex_);
-    if (dead_) {
-        return false;
-    }
-    auto it = std::find(recipients_.begin(), recipients_.end(), recipient);
-    if (it == recipients_.end()) {
-        return false;
-    }
-    recipients_.erase(it);
-    return true;
+    return recipient != nullptr && notice_->Remove(recipient);
 }
 
 int IPCObjectProxy::Dump(int fd, const std::vector<std::u16string>& args)
 {
     sptr<IRemoteObject> target = Target();
-    return target != nullptr ? target->Dump(fd, args) : ERR_DEAD_OBJECT;
+    return target != nullptr ? target->Dump(fd, args) : notice_->DeadResult();
 }
 
 void IPCObjectProxy::Kill()
 {
-    std::vector<sptr<DeathRecipient>> recipients;
     sptr<IRemoteObject> target;
     {
         std::lock_guard<std::mutex> lock(mutex_);
-        if (dead_) {
-            return;
-        }
-        dead_ = true;
-        recipients.swap(recipients_);
-        target = target_;
-        target_ = nullptr;
+        target = std::move(target_);
     }
-    if (recipients.empty()) {
+    sptr<IRemoteObject> registered = notice_->ProcessEnded();
+    if (registered == nullptr) {
         return;
     }
-    sptr<IPCObjectProxy> self = this;
     auto delivered = std::make_shared<std::promise<void>>();
     std::future<void> done = delivered->get_future();
-    IpcThreads::Post([self, recipients, delivered] {
-        const wptr<IRemoteObject> object(static_cast<IRemoteObject*>(self.GetRefPtr()));
-        for (const sptr<DeathRecipient>& recipient : recipients) {
-            recipient->OnRemoteDied(object);
-        }
+    IpcThreads::Post([registered, notice = notice_.get(), delivered] {
+        notice->Deliver();
         delivered->set_value();
     });
     // The killer may count on every notice of this kill having run, as "the next call reloads" needs; an IPC
@@ -164,6 +169,11 @@ void IPCObjectProxy::Kill()
         IPC_HOST_LOGE("death notices still running after %{public}lld s",
                       static_cast<long long>(DEATH_NOTICE_WAIT.count()));
     }
+}
+
+bool IPCObjectProxy::HasProcessEnded() const
+{
+    return notice_->HasProcessEnded();
 }
 
 void IPCObjectProxy::RefuseDeathRecipients(bool refuse)

@@ -103,22 +103,24 @@ void MessageParcel::Carry(size_t offset, Carried carried)
     }
 }
 
-const MessageParcel::Carried* MessageParcel::CarriedAtReadPosition(CarriedKind kind)
+const MessageParcel::Carried* MessageParcel::RecordAtReadPosition()
 {
     if (!CheckOffsets()) {
         return nullptr;
     }
     const size_t position = GetReadPosition();
     auto it = carried_.find(position);
-    if (it == carried_.end() || it->second.kind != kind) {
+    if (it == carried_.end()) {
         return nullptr;
     }
     // A failed marshalling may leave an offset behind whose bytes were written over; the record must still be there.
     const uint32_t type = RecordTypeAt(reinterpret_cast<const uint8_t*>(GetData()), position);
     const bool objectRecord = type == FlatObject::TYPE_BINDER || type == FlatObject::TYPE_HANDLE;
-    if (kind == CarriedKind::OBJECT ? !objectRecord : type != FlatObject::TYPE_FD) {
+    if (it->second.kind == CarriedKind::OBJECT ? !objectRecord : type != FlatObject::TYPE_FD) {
         return nullptr;
     }
+    // A read of a record takes it, whatever it holds: a record of the other kind is passed over.
+    SkipBytes(FlatObject::SIZE);
     return &it->second;
 }
 
@@ -128,18 +130,15 @@ bool MessageParcel::WriteRemoteObject(const sptr<IRemoteObject>& object)
         return false;
     }
     const uint32_t type = object->IsProxyObject() ? FlatObject::TYPE_HANDLE : FlatObject::TYPE_BINDER;
+    // On a device the 16 value bytes name the object to the driver (its counter and address, or its handle). Only the
+    // driver reads them, never a caller; the host keeps the object in the parcel's own table and writes zeros.
     return WriteRecord(type, 0, Carried{CarriedKind::OBJECT, object, INVALID_FD});
 }
 
 sptr<IRemoteObject> MessageParcel::ReadRemoteObject()
 {
-    const Carried* carried = CarriedAtReadPosition(CarriedKind::OBJECT);
-    if (carried == nullptr) {
-        return nullptr;
-    }
-    sptr<IRemoteObject> object = carried->object;
-    SkipBytes(FlatObject::SIZE);
-    return object;
+    const Carried* carried = RecordAtReadPosition();
+    return carried != nullptr && carried->kind == CarriedKind::OBJECT ? carried->object : nullptr;
 }
 
 bool MessageParcel::WriteFileDescriptor(int fd)
@@ -161,16 +160,14 @@ bool MessageParcel::WriteFileDescriptor(int fd)
 
 int MessageParcel::ReadFileDescriptor()
 {
-    const Carried* carried = CarriedAtReadPosition(CarriedKind::FD);
-    if (carried == nullptr) {
+    const Carried* carried = RecordAtReadPosition();
+    if (carried == nullptr || carried->kind != CarriedKind::FD) {
         return INVALID_FD;
     }
     const int copy = dup(carried->fd);
     if (copy < 0) {
         IPC_HOST_LOGE("dup of carried fd failed, errno %{public}d", errno);
-        return INVALID_FD;
     }
-    SkipBytes(FlatObject::SIZE);
     return copy;
 }
 
@@ -205,7 +202,8 @@ std::u16string MessageParcel::ReadInterfaceToken()
 {
     ReadInt32();
     ReadInt32();
-    return ReadString16();
+    interfaceToken_ = ReadString16();
+    return interfaceToken_;
 }
 
 std::u16string MessageParcel::GetInterfaceToken() const
@@ -226,6 +224,7 @@ bool MessageParcel::WriteRawData(const void* data, size_t size)
     if (!WriteInt32(static_cast<int32_t>(size))) {
         return false;
     }
+    rawDataSize_ = size;
     if (size <= MAX_INLINE_RAW_DATA_SIZE) {
         return WriteUnpadBuffer(data, size);
     }
@@ -270,6 +269,7 @@ const void* MessageParcel::ReadRawData(size_t size)
         return nullptr;
     }
     if (size <= MAX_INLINE_RAW_DATA_SIZE) {
+        rawDataSize_ = size;
         return ReadUnpadBuffer(size);
     }
     return MapSharedMemoryBlock(size);
@@ -277,8 +277,8 @@ const void* MessageParcel::ReadRawData(size_t size)
 
 const void* MessageParcel::MapSharedMemoryBlock(size_t size)
 {
-    const Carried* carried = CarriedAtReadPosition(CarriedKind::FD);
-    if (carried == nullptr) {
+    const Carried* carried = RecordAtReadPosition();
+    if (carried == nullptr || carried->kind != CarriedKind::FD) {
         IPC_HOST_LOGE("no shared memory block at the read position");
         return nullptr;
     }
@@ -292,7 +292,6 @@ const void* MessageParcel::MapSharedMemoryBlock(size_t size)
         IPC_HOST_LOGE("mmap of %{public}zu bytes failed, errno %{public}d", size, errno);
         return nullptr;
     }
-    SkipBytes(FlatObject::SIZE);
     mappings_.emplace_back(mapping, size);
     rawData_ = mapping;
     rawDataSize_ = size;
@@ -314,14 +313,19 @@ size_t MessageParcel::GetRawDataCapacity() const
     return MAX_RAW_DATA_SIZE;
 }
 
-bool MessageParcel::WriteNoException()
+void MessageParcel::WriteNoException()
 {
-    return WriteInt32(0);
+    WriteInt32(0);
 }
 
 int32_t MessageParcel::ReadException()
 {
-    return ReadInt32();
+    const int32_t code = ReadInt32();
+    // A failure comes with its message.
+    if (code != 0) {
+        ReadString16();
+    }
+    return code;
 }
 
 } // namespace OHOS

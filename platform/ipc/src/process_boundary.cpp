@@ -44,7 +44,7 @@ public:
         auto it = forwarders_.find(local.GetRefPtr());
         if (it != forwarders_.end()) {
             held.push_back(it->second.promote());
-            if (held.back() != nullptr && !held.back()->IsObjectDead()) {
+            if (held.back() != nullptr && !held.back()->HasProcessEnded()) {
                 return held.back();
             }
         }

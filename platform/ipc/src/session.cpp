@@ -38,43 +38,38 @@ sptr<IRemoteObject> Session::FindImport(uint64_t handle)
 {
     std::lock_guard<std::mutex> lock(mutex_);
     auto it = imports_.find(handle);
-    return it != imports_.end() ? it->second.promote() : nullptr;
+    return it != imports_.end() ? it->second.object.promote() : nullptr;
 }
 
-sptr<IRemoteObject> Session::Import(uint64_t handle, const std::function<sptr<IRemoteObject>()>& make, bool& created)
+sptr<IRemoteObject> Session::ImportHandle(uint64_t handle, const std::function<ImportedProxy()>& make, bool& created)
 {
     std::lock_guard<std::mutex> lock(mutex_);
     auto it = imports_.find(handle);
     if (it != imports_.end()) {
         // Null while the last reference of the previous object is going: that one gives its own reference back.
-        sptr<IRemoteObject> existing = it->second.promote();
+        sptr<IRemoteObject> existing = it->second.object.promote();
         if (existing != nullptr) {
             created = false;
             return existing;
         }
     }
     created = true;
-    sptr<IRemoteObject> object = make();
+    ImportedProxy made = make();
     if (IsAlive()) {
-        imports_[handle] = object;
+        imports_[handle] = Imported{made.object, made.notice};
+    } else {
+        made.notice->ProcessEnded();
     }
-    return object;
+    return made.object;
 }
 
 void Session::Forget(uint64_t handle, const IRemoteObject* object)
 {
-    // Let go after the lock: a recipient's last reference may lead back here.
-    Watch forgotten;
     {
         std::lock_guard<std::mutex> lock(mutex_);
         auto it = imports_.find(handle);
-        if (it != imports_.end() && it->second == object) {
+        if (it != imports_.end() && it->second.object == object) {
             imports_.erase(it);
-        }
-        auto watch = watches_.find(object);
-        if (watch != watches_.end()) {
-            forgotten = std::move(watch->second);
-            watches_.erase(watch);
         }
     }
     SendRelease(handle);
@@ -91,34 +86,6 @@ void Session::SendRelease(uint64_t handle)
         IPC_HOST_LOGW("release of handle %{public}llu to pid %{public}d failed",
                       static_cast<unsigned long long>(handle), peerPid_);
     }
-}
-
-bool Session::AddDeathRecipient(const IRemoteObject* object, const Recipient& recipient)
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    if (!IsAlive()) {
-        return false;
-    }
-    Watch& watch = watches_[object];
-    watch.object = const_cast<IRemoteObject*>(object);
-    watch.recipients.push_back(recipient);
-    return true;
-}
-
-bool Session::RemoveDeathRecipient(const IRemoteObject* object, const Recipient& recipient)
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    auto watch = watches_.find(object);
-    if (!IsAlive() || watch == watches_.end()) {
-        return false;
-    }
-    std::vector<Recipient>& recipients = watch->second.recipients;
-    auto it = std::find(recipients.begin(), recipients.end(), recipient);
-    if (it == recipients.end()) {
-        return false;
-    }
-    recipients.erase(it);
-    return true;
 }
 
 void Session::AddChannel(const std::shared_ptr<Channel>& channel)
@@ -160,7 +127,9 @@ void Session::ReadUntilEnd()
 
 void Session::End()
 {
-    std::map<const IRemoteObject*, Watch> watches;
+    // The live imported proxies; the references taken here are let go after the lock, since a last one leads back
+    // to Forget. An object whose last reference is going is not registered: nobody is left to tell.
+    std::vector<std::pair<sptr<IRemoteObject>, DeathNotice*>> proxies;
     std::vector<std::weak_ptr<Channel>> channels;
     {
         std::lock_guard<std::mutex> lock(sendMutex_);
@@ -169,22 +138,26 @@ void Session::End()
     {
         std::lock_guard<std::mutex> lock(mutex_);
         alive_.store(false, std::memory_order_release);
-        watches.swap(watches_);
+        for (const auto& [handle, imported] : imports_) {
+            if (sptr<IRemoteObject> proxy = imported.object.promote()) {
+                proxies.emplace_back(std::move(proxy), imported.notice);
+            }
+        }
         imports_.clear();
         channels.swap(channels_);
     }
+    // Each registered proxy, held while its notice runs.
+    std::vector<std::pair<sptr<IRemoteObject>, DeathNotice*>> notices;
+    for (const auto& [proxy, notice] : proxies) {
+        if (sptr<IRemoteObject> registered = notice->ProcessEnded()) {
+            notices.emplace_back(std::move(registered), notice);
+        }
+    }
+    proxies.clear();
     ExportTable::OfProcess().ReleaseAll(serial_);
     for (const std::weak_ptr<Channel>& held : channels) {
         if (std::shared_ptr<Channel> channel = held.lock()) {
             channel->Retire();
-        }
-    }
-    std::vector<std::pair<sptr<IRemoteObject>, std::vector<Recipient>>> notices;
-    for (auto& [object, watch] : watches) {
-        // An object whose last reference is going has nobody left to tell.
-        sptr<IRemoteObject> watched = watch.object.promote();
-        if (watched != nullptr && !watch.recipients.empty()) {
-            notices.emplace_back(std::move(watched), std::move(watch.recipients));
         }
     }
     std::lock_guard<std::mutex> lock(mutex_);
@@ -192,10 +165,8 @@ void Session::End()
     noticesPending_ = !notices.empty();
     if (noticesPending_) {
         IpcThreads::Post([self = shared_from_this(), notices = std::move(notices)] {
-            for (const auto& [object, recipients] : notices) {
-                for (const Recipient& recipient : recipients) {
-                    recipient->OnRemoteDied(wptr<IRemoteObject>(object));
-                }
+            for (const auto& [proxy, notice] : notices) {
+                notice->Deliver();
             }
             self->NoticesDone();
         });

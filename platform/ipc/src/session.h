@@ -15,10 +15,10 @@
 
 /*
  * Host: what this process shares with one peer process. The session socket serves lifetime only (the hellos, then
- * references given back); the objects imported from the peer and their death recipients are kept here, and so are
- * the channels this process's threads opened to the peer. The end of the socket (EOF or error) is the death of the
- * peer: every object imported through the session becomes dead, each recipient is told once on an IPC thread, the
- * references the peer held on this process's objects are dropped, and the channels are retired.
+ * references given back); the objects imported from the peer are kept here, and so are the channels this process's
+ * threads opened to the peer. The end of the socket (EOF or error) is the death of the peer: the process behind
+ * every object imported through the session ended (the registered ones get their death notice on an IPC thread),
+ * the references the peer held on this process's objects are dropped, and the channels are retired.
  */
 #ifndef OHOS_IPC_SESSION_H
 #define OHOS_IPC_SESSION_H
@@ -36,6 +36,7 @@
 #include <vector>
 
 #include "channel.h"
+#include "death_notice.h"
 #include "iremote_object.h"
 #include "unique_fd.h"
 
@@ -43,8 +44,6 @@ namespace OHOS {
 
 class Session : public std::enable_shared_from_this<Session> {
 public:
-    using Recipient = sptr<IRemoteObject::DeathRecipient>;
-
     Session(UniqueFd socket, std::string peerAddress, pid_t peerPid, uint64_t nonce);
 
     const std::string& PeerAddress() const { return peerAddress_; }
@@ -57,14 +56,17 @@ public:
 
     // The live object imported for the handle, or null.
     sptr<IRemoteObject> FindImport(uint64_t handle);
-    // The live object imported for the handle, or else the one make() returns, registered for it; created tells which.
-    sptr<IRemoteObject> Import(uint64_t handle, const std::function<sptr<IRemoteObject>()>& make, bool& created);
+    // A proxy made for an imported handle, and its death notice.
+    struct ImportedProxy {
+        sptr<IRemoteObject> object;
+        DeathNotice* notice = nullptr;
+    };
+    // The live object imported for the handle, or else the one make() returns, registered for it (told at once that
+    // the process ended if the session has); created tells which.
+    sptr<IRemoteObject> ImportHandle(uint64_t handle, const std::function<ImportedProxy()>& make, bool& created);
     // The object imported for the handle is going away: it is forgotten and its reference given back.
     void Forget(uint64_t handle, const IRemoteObject* object);
     void SendRelease(uint64_t handle);
-    // Recipients of an imported object, as the platform keeps them: duplicates allowed, none once dead.
-    bool AddDeathRecipient(const IRemoteObject* object, const Recipient& recipient);
-    bool RemoveDeathRecipient(const IRemoteObject* object, const Recipient& recipient);
 
     // A channel of this process to the peer, retired when the session ends (at once if it already has).
     void AddChannel(const std::shared_ptr<Channel>& channel);
@@ -79,9 +81,9 @@ public:
     bool IsGone();
 
 private:
-    struct Watch {
+    struct Imported {
         wptr<IRemoteObject> object;
-        std::vector<Recipient> recipients;
+        DeathNotice* notice = nullptr;
     };
 
     void End();
@@ -99,8 +101,7 @@ private:
 
     std::mutex mutex_;
     std::condition_variable changed_;
-    std::map<uint64_t, wptr<IRemoteObject>> imports_;
-    std::map<const IRemoteObject*, Watch> watches_;
+    std::map<uint64_t, Imported> imports_;
     std::vector<std::weak_ptr<Channel>> channels_;
     bool ended_ = false;
     bool noticesPending_ = false;

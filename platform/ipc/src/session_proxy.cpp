@@ -18,6 +18,8 @@
 #include <chrono>
 #include <cstring>
 
+#include "binder_buffer.h"
+#include "binder_results.h"
 #include "export_table.h"
 #include "ipc_log.h"
 #include "parcel_wire.h"
@@ -26,16 +28,17 @@
 
 namespace OHOS {
 namespace {
-FrameSocket::Clock::time_point DeadlineOf(const MessageOption& option)
-{
-    const int seconds = option.GetWaitTime() > 0 ? option.GetWaitTime() : MessageOption::TF_WAIT_TIME;
-    return FrameSocket::Clock::now() + std::chrono::seconds(seconds);
-}
+// Taking a reference is the driver's own work, which a device does at once: an owner that does not answer within
+// this long is stuck, and the object is taken as dead.
+constexpr std::chrono::seconds ACQUIRE_WAIT{8};
 } // namespace
 
 SessionProxy::SessionProxy(std::shared_ptr<Session> session, uint64_t handle, std::u16string descriptor) :
-    IRemoteObject(std::move(descriptor)), ImportedHandle{std::move(session), handle}
+    IRemoteObject(std::move(descriptor)), ImportedHandle{std::move(session), handle}, notice_(*this)
 {
+    if (this->session == nullptr) {
+        notice_.ProcessEnded();
+    }
 }
 
 const ImportedHandle* SessionProxy::ImportedOf(const IRemoteObject* object)
@@ -62,13 +65,18 @@ int SessionProxy::SendRequest(uint32_t code, MessageParcel& data, MessageParcel&
 
 int SessionProxy::Transact(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option)
 {
-    if (IsObjectDead()) {
-        IPC_HOST_LOGW("code %{public}u sent to a dead object", code);
-        return ERR_DEAD_OBJECT;
+    if (session == nullptr || !session->IsAlive()) {
+        IPC_HOST_LOGW("code %{public}u sent to an object whose process ended", code);
+        return notice_.DeadResult();
+    }
+    if (BinderBuffer::SpaceOf(data) > BinderBuffer::SIZE) {
+        IPC_HOST_LOGE("code %{public}u: a parcel of %{public}zu bytes does not fit a binder buffer", code,
+                      data.GetDataSize());
+        return BR_FAILED_REPLY;
     }
     std::shared_ptr<Channel> channel = ThreadChannels::To(session);
     if (channel == nullptr) {
-        return ERR_DEAD_OBJECT;
+        return BR_DEAD_REPLY;
     }
     IpcFrame request;
     request.kind = IpcFrame::Kind::TRANSACTION;
@@ -83,27 +91,37 @@ int SessionProxy::Transact(uint32_t code, MessageParcel& data, MessageParcel& re
     }
     const bool oneWay = (option.GetFlags() & MessageOption::TF_ASYNC) != 0;
     IpcFrame answer;
-    result = channel->Call(bytes, fds, DeadlineOf(option), oneWay ? nullptr : &answer);
+    result = channel->Call(bytes, fds, std::nullopt, oneWay ? nullptr : &answer);
     if (result != ERR_NONE) {
         IPC_HOST_LOGE("code %{public}u to pid %{public}d failed: %{public}d", code, session->PeerPid(), result);
-        return result;
+        // The channel ends with the process: the reply never comes.
+        return result == ERR_DEAD_OBJECT ? BR_DEAD_REPLY : result;
     }
     if (oneWay) {
         return ERR_NONE;
     }
+    // A status travels only with an empty reply.
     if (answer.status != ERR_NONE) {
         return answer.status;
     }
-    if (!ParcelWire::ToParcel(answer, session, &SessionProxy::Import, reply)) {
+    BinderBuffer::Space space =
+        BinderBuffer::OfProcess()->Take(BinderBuffer::SpaceOf(answer.DataSize(), answer.objects.size()));
+    // A reply that does not fit is still taken apart, so that the references it carried are given back.
+    MessageParcel dropped;
+    if (!ParcelWire::ToParcel(answer, session, &SessionProxy::Import, space != nullptr ? reply : dropped)) {
         channel->Close();
         return ERR_INVALID_REPLY;
     }
+    if (space == nullptr) {
+        return BR_FAILED_REPLY;
+    }
+    BinderBuffer::KeepWith(reply, std::move(space));
     return ERR_NONE;
 }
 
 bool SessionProxy::IsObjectDead() const
 {
-    return session == nullptr || !session->IsAlive();
+    return notice_.IsDead();
 }
 
 bool SessionProxy::AddDeathRecipient(const sptr<DeathRecipient>& recipient)
@@ -111,7 +129,7 @@ bool SessionProxy::AddDeathRecipient(const sptr<DeathRecipient>& recipient)
     if (recipient == nullptr) {
         return false;
     }
-    if (IsObjectDead() || !session->AddDeathRecipient(this, recipient)) {
+    if (!notice_.Add(recipient)) {
         IPC_HOST_LOGE("death recipient refused: the object is dead");
         return false;
     }
@@ -120,7 +138,7 @@ bool SessionProxy::AddDeathRecipient(const sptr<DeathRecipient>& recipient)
 
 bool SessionProxy::RemoveDeathRecipient(const sptr<DeathRecipient>& recipient)
 {
-    return recipient != nullptr && session != nullptr && session->RemoveDeathRecipient(this, recipient);
+    return recipient != nullptr && notice_.Remove(recipient);
 }
 
 int SessionProxy::Dump(int fd, const std::vector<std::u16string>& args)
@@ -187,7 +205,7 @@ std::optional<std::u16string> SessionProxy::Acquire(const std::shared_ptr<Sessio
     acquire.kind = IpcFrame::Kind::ACQUIRE;
     acquire.handle = handle;
     IpcFrame answer;
-    if (channel->Call(acquire.Encode(nullptr, 0, 0), {}, DeadlineOf(MessageOption()), &answer) != ERR_NONE ||
+    if (channel->Call(acquire.Encode(nullptr, 0, 0), {}, FrameSocket::Clock::now() + ACQUIRE_WAIT, &answer) != ERR_NONE ||
         answer.status != ERR_NONE || answer.DataSize() % sizeof(char16_t) != 0) {
         return std::nullopt;
     }
@@ -200,8 +218,13 @@ sptr<IRemoteObject> SessionProxy::Adopt(const std::shared_ptr<Session>& session,
                                         const std::u16string& descriptor)
 {
     bool created = false;
-    sptr<IRemoteObject> proxy = session->Import(
-        handle, [&] { return sptr<IRemoteObject>(new SessionProxy(session, handle, descriptor)); }, created);
+    sptr<IRemoteObject> proxy = session->ImportHandle(
+        handle,
+        [&] {
+            sptr<SessionProxy> made = new SessionProxy(session, handle, descriptor);
+            return Session::ImportedProxy{made, &made->notice_};
+        },
+        created);
     if (!created) {
         session->SendRelease(handle);
     }

@@ -15,9 +15,9 @@
 
 /*
  * Host: a remote object that stands for an object of another process, reached through a session. Each calling
- * thread sends on a channel of its own and reads its own reply within the wait time of the call. One proxy per
- * session and handle while it lives; it holds one reference in the owner's process and gives it back when its
- * last strong reference goes. It dies with the session.
+ * thread sends on a channel of its own and waits for its own reply as long as it takes, as a binder call does. One
+ * proxy per session and handle while it lives; it holds one reference in the owner's process and gives it back when
+ * its last strong reference goes. The end of the session is the end of its process (DeathNotice).
  */
 #ifndef OHOS_IPC_SESSION_PROXY_H
 #define OHOS_IPC_SESSION_PROXY_H
@@ -27,6 +27,7 @@
 #include <string>
 #include <vector>
 
+#include "death_notice.h"
 #include "ipc_frame.h"
 #include "iremote_object.h"
 #include "session.h"
@@ -64,6 +65,8 @@ private:
     // The proxy of the handle, holding the one reference this process was given (given back if one already holds).
     static sptr<IRemoteObject> Adopt(const std::shared_ptr<Session>& session, uint64_t handle,
                                      const std::u16string& descriptor);
+
+    DeathNotice notice_;
 };
 
 } // namespace OHOS

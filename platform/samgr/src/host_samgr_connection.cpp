@@ -46,7 +46,7 @@ sptr<SystemAbilityManagerProxy> HostSamgrConnection::Manager()
     // Kept for the life of the process: the manager may be asked for during exit.
     static Connection* connection = new Connection();
     std::lock_guard<std::mutex> lock(connection->mutex);
-    if (connection->remote == nullptr || connection->remote->IsObjectDead()) {
+    if (connection->remote == nullptr || IpcHostTransport::HasProcessEnded(connection->remote)) {
         connection->remote = IpcHostTransport::ConnectToContextObject(SocketPath());
         if (connection->remote == nullptr) {
             SAMGR_HOST_LOGE("no system ability manager serves at %{public}s", SocketPath());

@@ -96,8 +96,8 @@ sptr<IRemoteObject> SystemAbilityManagerHost::Running(int32_t systemAbilityId)
     if (it == abilities_.end()) {
         return nullptr;
     }
-    // A process that ended a moment ago may not have been forgotten yet: its object is dead already.
-    if (it->second->IsObjectDead()) {
+    // A process that ended a moment ago may not have been forgotten yet.
+    if (IpcHostTransport::HasProcessEnded(it->second)) {
         abilities_.erase(it);
         return nullptr;
     }

@@ -45,6 +45,8 @@ enum PeerCode : uint32_t {
     RENDEZVOUS,  // int32 n: waits up to 5 s until n callers are inside at once: bool
     NESTED,      // what CALL sends to the held object
     GIVE_YES,    // a stub that answers every request with true at once
+    FAIL_WITH,   // int32 status, bool: answers the status, with the reply written (an int32) if the bool says so
+    BIG_REPLY,   // int32 n: a reply of n bytes
 };
 
 class PeerProcess {

@@ -17,6 +17,7 @@
 
 #include <cstring>
 #include <fcntl.h>
+#include <sys/mman.h>
 #include <functional>
 #include <string>
 #include <unistd.h>
@@ -98,6 +99,7 @@ TEST(MessageParcelTest, RawDataRoundTripsInlineAndThroughSharedMemory)
         MessageParcel parcel;
         ASSERT_TRUE(parcel.WriteUint32(static_cast<uint32_t>(c.size)));
         ASSERT_TRUE(parcel.WriteRawData(payload.data(), payload.size())) << c.size;
+        EXPECT_EQ(parcel.GetRawDataSize(), c.size);
         const size_t body = c.shared ? RECORD_SIZE : (c.size + 3) / 4 * 4;
         EXPECT_EQ(parcel.GetDataSize(), 8 + body) << c.size;
         EXPECT_EQ(parcel.ContainFileDescriptors(), c.shared) << c.size;
@@ -258,6 +260,76 @@ TEST(MessageParcelTest, RecordCutBySetDataSizeDoesNotCross)
     EXPECT_FALSE(received.ContainFileDescriptors());
     close(fds[0]);
     close(fds[1]);
+}
+
+// What a receiver learns while reading stays with the parcel: the token, the size of the raw data, the message of
+// an exception. A read that meets a record it cannot use still takes the record, as a device's driver does.
+TEST(MessageParcelTest, ReceivedParcelsKeepWhatTheyReadAndPassRecordsTheyRefuse)
+{
+    sptr<IRemoteObject> stub = new Zelkon::ScriptedStub(u"test.Stub");
+    const int smallBlock = memfd_create("small", 0);
+    ASSERT_GE(smallBlock, 0);
+    ASSERT_EQ(ftruncate(smallBlock, 16), 0);
+    const std::vector<uint8_t> bigRaw = Pattern(40000);
+    const struct {
+        const char* name;
+        std::function<void(MessageParcel&)> write;
+        std::function<void(MessageParcel&)> readAndCheck;
+        size_t position;
+    } cases[] = {
+        {"token", [](MessageParcel& p) { p.WriteInterfaceToken(u"test.Token"); },
+         [](MessageParcel& p) {
+             EXPECT_EQ(p.GetInterfaceToken(), u"");
+             p.ReadInterfaceToken();
+             EXPECT_EQ(p.GetInterfaceToken(), u"test.Token");
+         },
+         36},
+        {"inline raw data", [](MessageParcel& p) { p.WriteRawData("abc", 3); },
+         [](MessageParcel& p) {
+             EXPECT_NE(p.ReadRawData(3), nullptr);
+             EXPECT_EQ(p.GetRawDataSize(), 3u);
+         },
+         8},
+        {"raw data in shared memory", [&](MessageParcel& p) { p.WriteRawData(bigRaw.data(), bigRaw.size()); },
+         [&](MessageParcel& p) {
+             EXPECT_NE(p.ReadRawData(bigRaw.size()), nullptr);
+             EXPECT_EQ(p.GetRawDataSize(), bigRaw.size());
+         },
+         4 + RECORD_SIZE},
+        {"exception with its message",
+         [](MessageParcel& p) {
+             p.WriteInt32(-5);
+             p.WriteString16(u"boom");
+             p.WriteInt32(7);
+         },
+         [](MessageParcel& p) {
+             EXPECT_EQ(p.ReadException(), -5);
+             EXPECT_EQ(p.ReadInt32(), 7);
+         },
+         24},
+        {"no exception", [](MessageParcel& p) { p.WriteNoException(); },
+         [](MessageParcel& p) { EXPECT_EQ(p.ReadException(), 0); }, 4},
+        {"descriptor read as an object", [&](MessageParcel& p) { p.WriteFileDescriptor(smallBlock); },
+         [](MessageParcel& p) { EXPECT_EQ(p.ReadRemoteObject(), nullptr); }, RECORD_SIZE},
+        {"object read as a descriptor", [&](MessageParcel& p) { p.WriteRemoteObject(stub); },
+         [](MessageParcel& p) { EXPECT_EQ(p.ReadFileDescriptor(), INVALID_FD); }, RECORD_SIZE},
+        {"raw data whose block is too small",
+         [&](MessageParcel& p) {
+             p.WriteInt32(40000);
+             p.WriteFileDescriptor(smallBlock);
+         },
+         [](MessageParcel& p) { EXPECT_EQ(p.ReadRawData(40000), nullptr); }, 4 + RECORD_SIZE},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        MessageParcel sent;
+        c.write(sent);
+        MessageParcel received;
+        ASSERT_TRUE(ProcessBoundary::Copy(sent, received));
+        c.readAndCheck(received);
+        EXPECT_EQ(received.GetReadPosition(), c.position);
+    }
+    close(smallBlock);
 }
 
 } // namespace

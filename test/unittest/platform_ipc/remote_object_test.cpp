@@ -21,7 +21,6 @@
 #include "ipc_object_proxy.h"
 #include "ipc_threads.h"
 #include "ipc_types.h"
-#include "notice_counter.h"
 #include "parcel_bytes.h"
 #include "process_boundary.h"
 #include "scripted_stub.h"
@@ -31,21 +30,6 @@ namespace {
 
 using Zelkon::ScriptedStub;
 constexpr uint32_t CODE = 7;
-
-// Counts its notices and keeps the last object that died and whether it was told on an IPC thread.
-class CountingRecipient : public IRemoteObject::DeathRecipient, public Zelkon::NoticeCounter {
-public:
-    void OnRemoteDied(const wptr<IRemoteObject>& object) override
-    {
-        died_ = object.promote();
-        onIpcThread_ = IpcThreads::IsIpcThread();
-        Notice();
-    }
-
-    // Read once the notice was counted: the counter's lock orders the writes before.
-    sptr<IRemoteObject> died_;
-    bool onIpcThread_ = false;
-};
 
 class RemoteObjectTest : public testing::Test {
 protected:
@@ -119,18 +103,6 @@ TEST_F(RemoteObjectTest, RequestAndReplyCrossTheBoundaryIntact)
     close(pipeFds[1]);
 }
 
-TEST_F(RemoteObjectTest, FailedRequestComesBackWithItsCodeAndAnEmptyReply)
-{
-    Connect([](uint32_t, MessageParcel&, MessageParcel& reply) {
-        reply.WriteInt32(1);
-        return ERR_INVALID_DATA;
-    });
-    MessageParcel data;
-    MessageParcel reply;
-    EXPECT_EQ(Send(data, reply), ERR_INVALID_DATA);
-    EXPECT_EQ(reply.GetDataSize(), 0u);
-}
-
 TEST_F(RemoteObjectTest, LocalObjectArrivesAsARemoteObjectThatForwardsToIt)
 {
     std::vector<sptr<IRemoteObject>> received;
@@ -160,33 +132,6 @@ TEST_F(RemoteObjectTest, LocalObjectArrivesAsARemoteObjectThatForwardsToIt)
     MessageOption option;
     EXPECT_EQ(received[0]->SendRequest(3, call, reply, option), ERR_NONE);
     EXPECT_EQ(listener->Codes(), std::vector<uint32_t>({3}));
-}
-
-TEST_F(RemoteObjectTest, DeadObjectRefusesRequestsAndTellsEachRecipientOnce)
-{
-    Connect();
-    sptr<CountingRecipient> first = new CountingRecipient();
-    sptr<CountingRecipient> second = new CountingRecipient();
-    ASSERT_TRUE(remote_->AddDeathRecipient(first));
-    ASSERT_TRUE(remote_->AddDeathRecipient(second));
-
-    remote_->Kill();
-    remote_->Kill();
-
-    MessageParcel data;
-    MessageParcel reply;
-    EXPECT_EQ(Send(data, reply), ERR_DEAD_OBJECT);
-    EXPECT_TRUE(remote_->IsObjectDead());
-    for (const sptr<CountingRecipient>& recipient : {first, second}) {
-        ASSERT_TRUE(recipient->WaitForCount(1));
-    }
-    IpcThreads::Drain();
-    for (const sptr<CountingRecipient>& recipient : {first, second}) {
-        EXPECT_EQ(recipient->Count(), 1);
-        EXPECT_TRUE(recipient->onIpcThread_);
-        EXPECT_EQ(recipient->died_, sptr<IRemoteObject>(remote_));
-    }
-    EXPECT_TRUE(stub_->Codes().empty());
 }
 
 } // namespace
