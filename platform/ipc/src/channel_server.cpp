@@ -85,6 +85,14 @@ int DumpTo(IRemoteObject& target, MessageParcel& data)
     return target.Dump(fd.Get(), args);
 }
 
+std::vector<uint8_t> Taken()
+{
+    IpcFrame taken;
+    taken.kind = IpcFrame::Kind::REPLY;
+    taken.status = ERR_NONE;
+    return taken.Encode(nullptr, 0, 0);
+}
+
 bool AnswerAcquire(const Session& session, int socket, const IpcFrame& request)
 {
     sptr<IRemoteObject> object = ExportTable::OfProcess().Acquire(request.handle, session.Serial());
@@ -113,7 +121,13 @@ bool AnswerTransaction(const std::shared_ptr<Session>& session, int socket, IpcF
         return false;
     }
     MessageParcel data;
-    if (!ParcelWire::ToParcel(request, session, &SessionProxy::Import, data) || !RunningRequests::OfProcess().Enter()) {
+    if (!ParcelWire::ToParcel(request, session, &SessionProxy::Import, data)) {
+        return false;
+    }
+    // A one-way request is taken once its target and what it carries are held here: its sender learns so before it
+    // may give back the references it held for it, as the driver holds them for a one-way transaction.
+    const bool oneWay = (request.flags & MessageOption::TF_ASYNC) != 0;
+    if ((oneWay && !FrameSocket::Send(socket, Taken(), {})) || !RunningRequests::OfProcess().Enter()) {
         return false;
     }
     MessageParcel reply;
@@ -121,7 +135,7 @@ bool AnswerTransaction(const std::shared_ptr<Session>& session, int socket, IpcF
     const int result = request.code == IpcFrame::DUMP_CODE ? DumpTo(*target, data)
                                                            : target->SendRequest(request.code, data, reply, option);
     RunningRequests::OfProcess().Leave();
-    if ((request.flags & MessageOption::TF_ASYNC) != 0) {
+    if (oneWay) {
         return true;
     }
     IpcFrame answer;
