@@ -14,8 +14,9 @@
  */
 
 /*
- * Host: loads abilities on demand. Holds how each loadable ability is started (its loader), starts one that is
- * not running, and tells a load request's callback the outcome, as scripted faults may change it.
+ * Host: loads abilities on demand. Holds how each loadable ability is started (its loader, the host's profile of
+ * it), starts one that is not running, and tells a load request's callback the outcome, one-way, as scripted faults
+ * may change it.
  */
 #ifndef OHOS_SAMGR_ABILITY_LOADER_H
 #define OHOS_SAMGR_ABILITY_LOADER_H
@@ -23,6 +24,7 @@
 #include <cstdint>
 #include <map>
 #include <mutex>
+#include <vector>
 
 #include "ability_registry.h"
 #include "call_counters.h"
@@ -41,11 +43,16 @@ public:
     void RegisterLoader(int32_t systemAbilityId, SamgrHostControl::Loader loader);
     // The running ability, or the one its loader starts now; null if neither.
     sptr<IRemoteObject> FindOrStart(int32_t systemAbilityId);
-    // 0 when accepted: the outcome reaches the callback later, on an IPC thread.
+    // 0 when accepted: the outcome reaches the callback later, on an IPC thread, once for each callback of an
+    // ability that is starting. PROFILE_NOT_EXIST, and no callback, for an id without a loader.
     int32_t Load(int32_t systemAbilityId, const sptr<IRemoteObject>& callback);
     void Reset();
 
 private:
+    bool HasProfile(int32_t systemAbilityId);
+    // False if the callback waits for the ability's start already.
+    bool AwaitStart(int32_t systemAbilityId, const sptr<IRemoteObject>& callback);
+    void StopAwaiting(int32_t systemAbilityId, const sptr<IRemoteObject>& callback);
     void DeliverLoad(int32_t systemAbilityId, const sptr<IRemoteObject>& callback, const LoadScript& script);
 
     AbilityRegistry& registry_;
@@ -55,6 +62,8 @@ private:
     // Serialises starts, so concurrent loads of an ability that is not running start one process, not two.
     std::mutex startMutex_;
     std::map<int32_t, SamgrHostControl::Loader> loaders_;
+    // The callbacks of each ability that is starting, told when it has started or failed to.
+    std::map<int32_t, std::vector<sptr<IRemoteObject>>> awaiting_;
 };
 
 } // namespace OHOS

@@ -38,8 +38,8 @@ bool ReadScript(MessageParcel& data, LoadScript& script, int32_t& count)
     int32_t outcome = 0;
     int64_t delay = 0;
     if (!data.ReadInt32(outcome) || !data.ReadInt64(delay) || !data.ReadInt32(script.otherId) ||
-        !data.ReadInt32(script.refuseCode) || !data.ReadInt32(count) || outcome < 0 ||
-        outcome > static_cast<int32_t>(LoadScript::Outcome::REFUSE) || delay < 0) {
+        !data.ReadInt32(script.refuseCode) || !data.ReadInt32(script.failCode) || !data.ReadInt32(count) ||
+        outcome < 0 || outcome > static_cast<int32_t>(LoadScript::Outcome::REFUSE) || delay < 0) {
         return false;
     }
     script.outcome = static_cast<LoadScript::Outcome>(outcome);
