@@ -30,8 +30,9 @@ namespace Zelkon {
 
 struct EmulatorFault {
     enum class Kind {
-        LOAD_FAILS,           // the next `value` loads of the share service fail
+        LOAD_FAILS,           // the next `value` loads of the share service fail, as timed out
         LOAD_DELAYED,         // the next load answers after `value` milliseconds
+        LOAD_ERROR,           // the next load fails with the error code `value`, as a service whose start failed
         DIES_AFTER_REQUESTS,  // the share service process dies right after answering `value` more requests
         DIES_IN_REQUEST,      // it dies in the middle of its next request with code `value`: no reply
         STALLS_IN_REQUEST,    // it stalls in its next request with code `value` until its watchdog ends it
@@ -50,6 +51,8 @@ struct EmulatorFault {
     static std::optional<EmulatorFault> Parse(const std::string& text, std::string& error);
     // The FAULT text that Parse reads back as this fault.
     std::string Text() const;
+    // Whether the system ability manager plays it (a load's outcome), not the share service.
+    bool IsLoadFault() const;
 };
 
 } // namespace Zelkon

@@ -16,6 +16,7 @@
 #include "emulator_fault.h"
 
 #include <charconv>
+#include <cstdint>
 #include <vector>
 
 namespace OHOS {
@@ -39,6 +40,7 @@ struct Form {
 const std::vector<Form> FORMS = {
     {"load-fail", Kind::LOAD_FAILS, Form::Number::OPTIONAL, 1, MAX_SCRIPTED_LOADS},
     {"load-delay", Kind::LOAD_DELAYED, Form::Number::REQUIRED, 0, MAX_LOAD_DELAY_MS},
+    {"load-error", Kind::LOAD_ERROR, Form::Number::REQUIRED, 1, INT32_MAX},
     {"die-after", Kind::DIES_AFTER_REQUESTS, Form::Number::REQUIRED, 1, UINT32_MAX},
     {"die-in", Kind::DIES_IN_REQUEST, Form::Number::REQUIRED, 1, LAST_SHARE_SERVICE_CODE},
     {"stall-in", Kind::STALLS_IN_REQUEST, Form::Number::REQUIRED, 1, LAST_SHARE_SERVICE_CODE},
@@ -57,8 +59,11 @@ bool ParseNumber(const std::string& text, uint32_t& value)
 } // namespace
 
 const char* const EmulatorFault::GRAMMAR =
-    "  load-fail[:COUNT]   the next COUNT loads of the share service fail (1 by default)\n"
+    "  load-fail[:COUNT]   the next COUNT loads of the share service fail (1 by default), as timed out (error\n"
+    "                      code 999)\n"
     "  load-delay:MS       the next load of the share service answers after MS milliseconds\n"
+    "  load-error:CODE     the next load of the share service fails with error code CODE, as a service whose\n"
+    "                      start failed reports it\n"
     "  die-after:N         the share service process dies right after answering N more requests\n"
     "  die-in:CODE         the share service process dies in the middle of its next request with code CODE\n"
     "                      (1 to 27): the caller gets no reply\n"
@@ -110,6 +115,11 @@ std::string EmulatorFault::Text() const
         }
     }
     return "";
+}
+
+bool EmulatorFault::IsLoadFault() const
+{
+    return kind == Kind::LOAD_FAILS || kind == Kind::LOAD_DELAYED || kind == Kind::LOAD_ERROR;
 }
 
 } // namespace Zelkon

@@ -94,7 +94,7 @@ bool EmulatorProcesses::Serve(const Options& options)
     }
     std::vector<EmulatorFault> serviceFaults;
     for (const EmulatorFault& fault : options.faults) {
-        if (fault.kind == EmulatorFault::Kind::LOAD_FAILS || fault.kind == EmulatorFault::Kind::LOAD_DELAYED) {
+        if (fault.IsLoadFault()) {
             ShareEmulator::InjectFault(fault);
         } else {
             serviceFaults.push_back(fault);

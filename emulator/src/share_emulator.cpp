@@ -151,6 +151,12 @@ void ShareEmulator::InjectFault(const EmulatorFault& fault)
     case EmulatorFault::Kind::LOAD_DELAYED:
         SamgrHostControl::ScriptLoads({LoadScript::Outcome::SUCCEED, std::chrono::milliseconds(fault.value)});
         break;
+    case EmulatorFault::Kind::LOAD_ERROR: {
+        LoadScript fails{LoadScript::Outcome::FAIL};
+        fails.failCode = static_cast<int32_t>(fault.value);
+        SamgrHostControl::ScriptLoads(fails);
+        break;
+    }
     default:
         if (SamgrHostControl::IsAcrossProcesses()) {
             ArmInShareServiceProcess(fault);

@@ -35,9 +35,9 @@ public:
     static constexpr unsigned int DUMP_FLAG_PRIORITY_CRITICAL = 1 << 0;
     static constexpr unsigned int DUMP_FLAG_PRIORITY_HIGH = 1 << 1;
     static constexpr unsigned int DUMP_FLAG_PRIORITY_NORMAL = 1 << 2;
-    static constexpr unsigned int DUMP_FLAG_PRIORITY_DEFAULT = DUMP_FLAG_PRIORITY_NORMAL;
+    static constexpr unsigned int DUMP_FLAG_PRIORITY_DEFAULT = 1 << 3;
     static constexpr unsigned int DUMP_FLAG_PRIORITY_ALL =
-        DUMP_FLAG_PRIORITY_CRITICAL | DUMP_FLAG_PRIORITY_HIGH | DUMP_FLAG_PRIORITY_NORMAL;
+        DUMP_FLAG_PRIORITY_CRITICAL | DUMP_FLAG_PRIORITY_HIGH | DUMP_FLAG_PRIORITY_NORMAL | DUMP_FLAG_PRIORITY_DEFAULT;
 
     struct SAExtraProp {
         SAExtraProp() = default;
@@ -67,7 +67,9 @@ public:
                                                                                 u"")) = 0;
     // Waits up to `timeout` seconds for the ability.
     virtual sptr<IRemoteObject> LoadSystemAbility(int32_t systemAbilityId, int32_t timeout) = 0;
-    // 0 when accepted; the outcome arrives later through the callback, on an IPC thread.
+    // 0 when accepted: the outcome arrives later through the callback, on an IPC thread, once however often the
+    // same callback asks while the ability starts. PROFILE_NOT_EXIST, and no callback, for an id the manager cannot
+    // load; the IPC error if the request fails.
     virtual int32_t LoadSystemAbility(int32_t systemAbilityId, const sptr<ISystemAbilityLoadCallback>& callback) = 0;
     virtual int32_t LoadSystemAbility(int32_t systemAbilityId, const std::string& deviceId,
                                       const sptr<ISystemAbilityLoadCallback>& callback) = 0;

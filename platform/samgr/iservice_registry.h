@@ -30,9 +30,11 @@ class SystemAbilityManagerClient {
 public:
     static SystemAbilityManagerClient& GetInstance();
 
-    // Null when the manager cannot be reached.
+    // The manager reached first, kept (even after it died) until DestroySystemAbilityManagerObject; null when the
+    // manager cannot be reached.
     sptr<ISystemAbilityManager> GetSystemAbilityManager();
     sptr<IRemoteObject> GetRegistryRemoteObject();
+    // Drops the kept manager: the next GetSystemAbilityManager reaches it anew.
     void DestroySystemAbilityManagerObject();
 
 private:
@@ -40,6 +42,9 @@ private:
     ~SystemAbilityManagerClient() = default;
     SystemAbilityManagerClient(const SystemAbilityManagerClient&) = delete;
     SystemAbilityManagerClient& operator=(const SystemAbilityManagerClient&) = delete;
+
+    sptr<ISystemAbilityManager> systemAbilityManager_;
+    std::mutex systemAbilityManagerLock_;
 };
 
 } // namespace OHOS

@@ -34,7 +34,7 @@ public:
         ON_LOAD_SYSTEM_ABILITY_SUCCESS = 1,
         ON_LOAD_SYSTEM_ABILITY_FAIL = 2,
         ON_LOAD_SYSTEM_ABILITY_COMPLETE_FOR_REMOTE = 3,
-        ON_LOAD_SYSTEM_ABILITY_FAIL_WITH_ERRCODE = 4,
+        ON_LOAD_SYSTEM_ABILITY_FAIL_WITH_CODE = 4,
     };
 
     virtual void OnLoadSystemAbilitySuccess(int32_t systemAbilityId, const sptr<IRemoteObject>& remoteObject)

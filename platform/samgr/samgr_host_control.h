@@ -32,22 +32,25 @@
 #include <vector>
 
 #include "iremote_object.h"
+#include "samgr_err_code.h"
 
 namespace OHOS {
 
-// What the next scripted loads do instead of the normal outcome.
+// What the next scripted loads do instead of the normal outcome. As on a device, a success always carries the
+// ability's object.
 struct LoadScript {
     enum class Outcome {
-        SUCCEED,     // the normal outcome, after `delay`
-        FAIL,        // OnLoadSystemAbilityFail
-        OTHER_ID,    // OnLoadSystemAbilitySuccess(otherId, object)
-        NULL_OBJECT, // OnLoadSystemAbilitySuccess(id, nullptr)
-        REFUSE,      // LoadSystemAbility returns refuseCode, no callback
+        SUCCEED,  // the normal outcome, after `delay`
+        FAIL,     // OnLoadSystemAbilityFail(id, failCode), as when the ability's start fails
+        OTHER_ID, // OnLoadSystemAbilitySuccess(otherId, object)
+        REFUSE,   // LoadSystemAbility returns refuseCode, no callback
     };
     Outcome outcome = Outcome::SUCCEED;
     std::chrono::milliseconds delay{0};
     int32_t otherId = 0;
     int32_t refuseCode = ERR_INVALID_VALUE;
+    // What the ability's process reports when its start fails; a start that times out reports LOAD_SA_TIMEOUT.
+    int32_t failCode = LOAD_SA_TIMEOUT;
 };
 
 class SamgrHostControl {
@@ -62,15 +65,20 @@ public:
     // This process serves the manager at the socket path for other processes. False (logged) if it cannot.
     static bool ServeAcrossProcesses(const std::string& socketPath);
     // A load starts the ability's process, which finds the manager through SOCKET_ENVIRONMENT and adds the
-    // ability; the load fails if it has not within 10 s. The process is killed with the manager's, and the
-    // ability forgotten when its process ends.
+    // ability; the load fails (LOAD_SA_TIMEOUT) if it has not within 10 s or its process ends first. The process is
+    // killed with the manager's, and the ability forgotten when its process ends. Like RegisterLoader, this gives the
+    // id its profile.
     static void RegisterProcess(int32_t systemAbilityId, CommandLine commandLine);
     // Whether this process uses the manager of another process.
     static bool IsAcrossProcesses();
 
+    // Gives the id its profile: a load of an id without one is refused with PROFILE_NOT_EXIST. A load fails
+    // (LOAD_SA_TIMEOUT) if the loader creates nothing.
     static void RegisterLoader(int32_t systemAbilityId, Loader loader);
     // The next `count` loads (of any id) follow `script`, then loads behave normally again.
     static void ScriptLoads(const LoadScript& script, int count = 1);
+    // GetSystemAbilityManager gives null while it has no manager cached: before its first success, or after
+    // DestroySystemAbilityManagerObject.
     static void SetManagerUnavailable(bool unavailable);
     // Applies to the remote objects of every ability, present and future.
     static void SetDeathRecipientsRefused(bool refused);

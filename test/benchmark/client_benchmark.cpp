@@ -48,14 +48,14 @@ sptr<ISystemAbilityManager> Manager()
     return SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
 }
 
-// The share service, registered once, answering every request with true at once; the remote object that the
-// share client talks to. ShareClient is connected to it on return.
+// The share service, loaded once, answering every request with true at once; the remote object that the share
+// client talks to. ShareClient is connected to it on return.
 sptr<IRemoteObject> FastShareService()
 {
     static const sptr<IRemoteObject> remote = [] {
         sptr<ReplyStub> stub(new ReplyStub(u"ohos.Zelkon.ZelkonService"));
         stub->AnswerWith(TRUE_REPLY, sizeof(TRUE_REPLY), false);
-        Manager()->AddSystemAbility(SHARE_SERVICE_SA_ID, stub);
+        SamgrHostControl::RegisterLoader(SHARE_SERVICE_SA_ID, [stub] { return sptr<IRemoteObject>(stub); });
         ShareClient::GetInstance().Connect();
         return Manager()->CheckSystemAbility(SHARE_SERVICE_SA_ID);
     }();

@@ -25,7 +25,7 @@ namespace OHOS {
 Channel::Channel(UniqueFd socket) : socket_(std::move(socket)) {}
 
 int Channel::Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds, FrameSocket::Deadline deadline,
-                  IpcFrame* reply)
+                  IpcFrame& reply)
 {
     int socket = -1;
     {
@@ -50,10 +50,10 @@ int Channel::Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds
     int result = ERR_NONE;
     if (!FrameSocket::Send(socket, bytes, fds)) {
         result = ERR_DEAD_OBJECT;
-    } else if (reply != nullptr) {
-        switch (FrameSocket::Receive(socket, deadline, *reply, true)) {
+    } else {
+        switch (FrameSocket::Receive(socket, deadline, reply, true)) {
         case FrameSocket::Result::OK:
-            result = reply->kind == IpcFrame::Kind::REPLY ? ERR_NONE : ERR_INVALID_REPLY;
+            result = reply.kind == IpcFrame::Kind::REPLY ? ERR_NONE : ERR_INVALID_REPLY;
             break;
         case FrameSocket::Result::TIMED_OUT:
             result = ERR_TIMED_OUT;

@@ -34,11 +34,11 @@ class Channel {
 public:
     explicit Channel(UniqueFd socket);
 
-    // Sends the frame and, with reply given, waits for the answer until the deadline, or without one as long as it
-    // takes (the peer answers, or its end retires the channel). ERR_NONE, ERR_TIMED_OUT, ERR_DEAD_OBJECT (closed or
-    // broken) or ERR_INVALID_REPLY (not a reply); on any failure the channel is closed.
+    // Sends the frame and waits for the answer until the deadline, or without one as long as it takes (the peer
+    // answers, or its end retires the channel). ERR_NONE, ERR_TIMED_OUT, ERR_DEAD_OBJECT (closed or broken) or
+    // ERR_INVALID_REPLY (not a reply); on any failure the channel is closed.
     int Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds, FrameSocket::Deadline deadline,
-             IpcFrame* reply);
+             IpcFrame& reply);
     // The reply was refused after it was read: the channel can no longer be trusted.
     void Close();
     bool IsOpen();

@@ -87,6 +87,15 @@ int DumpTo(IRemoteObject& target, MessageParcel& data)
     return target.Dump(fd.Get(), args);
 }
 
+// The answer to a one-way request, sent once it is taken: whether it fit the binder buffer.
+std::vector<uint8_t> Taken(int status)
+{
+    IpcFrame taken;
+    taken.kind = IpcFrame::Kind::REPLY;
+    taken.status = status;
+    return taken.Encode(nullptr, 0, 0);
+}
+
 bool AnswerAcquire(const Session& session, int socket, const IpcFrame& request)
 {
     sptr<IRemoteObject> object = ExportTable::OfProcess().Acquire(request.handle, session.Serial());
@@ -137,6 +146,12 @@ bool AnswerTransaction(const std::shared_ptr<Session>& session, int socket, IpcF
     if (!ParcelWire::ToParcel(request, session, &SessionProxy::Import, space != nullptr ? data : dropped)) {
         return false;
     }
+    // A one-way request is taken once its target and what it carries are held here: its sender learns so before it
+    // may give back the references it held for it, as the driver holds them for a one-way transaction.
+    const bool oneWay = (request.flags & MessageOption::TF_ASYNC) != 0;
+    if (oneWay && !FrameSocket::Send(socket, Taken(space != nullptr ? static_cast<int>(ERR_NONE) : BR_FAILED_REPLY), {})) {
+        return false;
+    }
     int result = BR_FAILED_REPLY;
     MessageParcel reply;
     if (space != nullptr) {
@@ -149,7 +164,7 @@ bool AnswerTransaction(const std::shared_ptr<Session>& session, int socket, IpcF
                                                      : target->SendRequest(request.code, data, reply, option);
         RunningRequests::OfProcess().Leave();
     }
-    if ((request.flags & MessageOption::TF_ASYNC) != 0) {
+    if (oneWay) {
         return true;
     }
     IpcFrame answer;

@@ -89,19 +89,16 @@ int SessionProxy::Transact(uint32_t code, MessageParcel& data, MessageParcel& re
     if (result != ERR_NONE) {
         return result;
     }
-    const bool oneWay = (option.GetFlags() & MessageOption::TF_ASYNC) != 0;
+    // A one-way request is answered as soon as the other process has taken it.
     IpcFrame answer;
-    result = channel->Call(bytes, fds, std::nullopt, oneWay ? nullptr : &answer);
+    result = channel->Call(bytes, fds, std::nullopt, answer);
     if (result != ERR_NONE) {
         IPC_HOST_LOGE("code %{public}u to pid %{public}d failed: %{public}d", code, session->PeerPid(), result);
         // The channel ends with the process: the reply never comes.
         return result == ERR_DEAD_OBJECT ? BR_DEAD_REPLY : result;
     }
-    if (oneWay) {
-        return ERR_NONE;
-    }
     // A status travels only with an empty reply.
-    if (answer.status != ERR_NONE) {
+    if (answer.status != ERR_NONE || (option.GetFlags() & MessageOption::TF_ASYNC) != 0) {
         return answer.status;
     }
     BinderBuffer::Space space =
@@ -205,7 +202,7 @@ std::optional<std::u16string> SessionProxy::Acquire(const std::shared_ptr<Sessio
     acquire.kind = IpcFrame::Kind::ACQUIRE;
     acquire.handle = handle;
     IpcFrame answer;
-    if (channel->Call(acquire.Encode(nullptr, 0, 0), {}, FrameSocket::Clock::now() + ACQUIRE_WAIT, &answer) != ERR_NONE ||
+    if (channel->Call(acquire.Encode(nullptr, 0, 0), {}, FrameSocket::Clock::now() + ACQUIRE_WAIT, answer) != ERR_NONE ||
         answer.status != ERR_NONE || answer.DataSize() % sizeof(char16_t) != 0) {
         return std::nullopt;
     }

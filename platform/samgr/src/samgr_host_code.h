@@ -32,7 +32,7 @@ enum class SamgrHostCode : uint32_t {
     REMOVE,       // id: int32 result
     LOAD,         // id, the callback: int32 result; the outcome reaches the callback later
     UNLOAD,       // id: int32 result
-    SCRIPT_LOADS, // outcome, delay in ms, other id, refuse code, count
+    SCRIPT_LOADS, // outcome, delay in ms, other id, refuse code, fail code, count
     KILL,         // id: int32 pid of the process killed, or -1
     LOOKUP_COUNT, // id: int32
     LOAD_COUNT,   // id: int32

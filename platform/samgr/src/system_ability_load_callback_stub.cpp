@@ -15,14 +15,31 @@
 
 #include "system_ability_load_callback_stub.h"
 
+#include <string>
+
 #include "samgr_log.h"
 #include "system_ability_definition.h"
 
 namespace OHOS {
+namespace {
+// Every outcome starts with the id; a request without one is refused before any callback.
+bool ReadSystemAbilityId(MessageParcel& data, int32_t& systemAbilityId)
+{
+    if (!data.ReadInt32(systemAbilityId)) {
+        SAMGR_HOST_LOGW("no system ability id");
+        return false;
+    }
+    return true;
+}
+} // namespace
 
 bool SystemAbilityLoadCallbackStub::CheckInputSystemAbilityId(int32_t systemAbilityId)
 {
-    return systemAbilityId >= SAMGR_SA_ID && systemAbilityId <= LAST_SYS_ABILITY_ID;
+    if (systemAbilityId < SAMGR_SA_ID || systemAbilityId > LAST_SYS_ABILITY_ID) {
+        SAMGR_HOST_LOGW("invalid system ability id %{public}d", systemAbilityId);
+        return false;
+    }
+    return true;
 }
 
 int32_t SystemAbilityLoadCallbackStub::OnRemoteRequest(uint32_t code, MessageParcel& data, MessageParcel& reply,
@@ -39,7 +56,7 @@ int32_t SystemAbilityLoadCallbackStub::OnRemoteRequest(uint32_t code, MessagePar
         return OnLoadSystemAbilityFailInner(data, reply);
     case ON_LOAD_SYSTEM_ABILITY_COMPLETE_FOR_REMOTE:
         return OnLoadSACompleteForRemoteInner(data, reply);
-    case ON_LOAD_SYSTEM_ABILITY_FAIL_WITH_ERRCODE:
+    case ON_LOAD_SYSTEM_ABILITY_FAIL_WITH_CODE:
         return OnLoadSystemAbilityFailWithCodeInner(data, reply);
     default:
         SAMGR_HOST_LOGW("unknown code %{public}u", code);
@@ -50,12 +67,15 @@ int32_t SystemAbilityLoadCallbackStub::OnRemoteRequest(uint32_t code, MessagePar
 int32_t SystemAbilityLoadCallbackStub::OnLoadSystemAbilitySuccessInner(MessageParcel& data, MessageParcel& reply)
 {
     (void)reply;
-    const int32_t systemAbilityId = data.ReadInt32();
-    if (!CheckInputSystemAbilityId(systemAbilityId)) {
-        SAMGR_HOST_LOGW("invalid system ability id %{public}d", systemAbilityId);
+    int32_t systemAbilityId = -1;
+    if (!ReadSystemAbilityId(data, systemAbilityId) || !CheckInputSystemAbilityId(systemAbilityId)) {
         return ERR_INVALID_VALUE;
     }
+    // Passed on even if it cannot be read: the callback decides what a success without an object means.
     sptr<IRemoteObject> remoteObject = data.ReadRemoteObject();
+    if (remoteObject == nullptr) {
+        SAMGR_HOST_LOGW("system ability %{public}d loaded without an object", systemAbilityId);
+    }
     OnLoadSystemAbilitySuccess(systemAbilityId, remoteObject);
     return ERR_NONE;
 }
@@ -63,11 +83,11 @@ int32_t SystemAbilityLoadCallbackStub::OnLoadSystemAbilitySuccessInner(MessagePa
 int32_t SystemAbilityLoadCallbackStub::OnLoadSystemAbilityFailInner(MessageParcel& data, MessageParcel& reply)
 {
     (void)reply;
-    const int32_t systemAbilityId = data.ReadInt32();
-    if (!CheckInputSystemAbilityId(systemAbilityId)) {
-        SAMGR_HOST_LOGW("invalid system ability id %{public}d", systemAbilityId);
+    int32_t systemAbilityId = -1;
+    if (!ReadSystemAbilityId(data, systemAbilityId) || !CheckInputSystemAbilityId(systemAbilityId)) {
         return ERR_INVALID_VALUE;
     }
+    SAMGR_HOST_LOGI("system ability %{public}d failed to load", systemAbilityId);
     OnLoadSystemAbilityFail(systemAbilityId);
     return ERR_NONE;
 }
@@ -75,12 +95,16 @@ int32_t SystemAbilityLoadCallbackStub::OnLoadSystemAbilityFailInner(MessageParce
 int32_t SystemAbilityLoadCallbackStub::OnLoadSystemAbilityFailWithCodeInner(MessageParcel& data, MessageParcel& reply)
 {
     (void)reply;
-    const int32_t systemAbilityId = data.ReadInt32();
-    if (!CheckInputSystemAbilityId(systemAbilityId)) {
-        SAMGR_HOST_LOGW("invalid system ability id %{public}d", systemAbilityId);
+    int32_t systemAbilityId = -1;
+    int32_t errCode = -1;
+    if (!ReadSystemAbilityId(data, systemAbilityId) || !CheckInputSystemAbilityId(systemAbilityId)) {
         return ERR_INVALID_VALUE;
     }
-    const int32_t errCode = data.ReadInt32();
+    if (!data.ReadInt32(errCode)) {
+        SAMGR_HOST_LOGW("no error code for system ability %{public}d", systemAbilityId);
+        return ERR_INVALID_VALUE;
+    }
+    SAMGR_HOST_LOGI("system ability %{public}d failed to load: %{public}d", systemAbilityId, errCode);
     OnLoadSystemAbilityFail(systemAbilityId, errCode);
     return ERR_NONE;
 }
@@ -89,12 +113,13 @@ int32_t SystemAbilityLoadCallbackStub::OnLoadSACompleteForRemoteInner(MessagePar
 {
     (void)reply;
     const std::string deviceId = data.ReadString();
-    const int32_t systemAbilityId = data.ReadInt32();
-    if (!CheckInputSystemAbilityId(systemAbilityId)) {
-        SAMGR_HOST_LOGW("invalid system ability id %{public}d", systemAbilityId);
+    int32_t systemAbilityId = -1;
+    if (!ReadSystemAbilityId(data, systemAbilityId) || !CheckInputSystemAbilityId(systemAbilityId)) {
         return ERR_INVALID_VALUE;
     }
-    sptr<IRemoteObject> remoteObject = data.ReadRemoteObject();
+    // The object follows only when the remote load succeeded.
+    const bool loaded = data.ReadBool();
+    sptr<IRemoteObject> remoteObject = loaded ? data.ReadRemoteObject() : nullptr;
     OnLoadSACompleteForRemote(deviceId, systemAbilityId, remoteObject);
     return ERR_NONE;
 }

@@ -15,19 +15,16 @@
 
 #include "iservice_registry.h"
 
+#include <mutex>
+
 #include "host_samgr_connection.h"
 #include "samgr_log.h"
 #include "system_ability_manager_host.h"
 
 namespace OHOS {
-
-SystemAbilityManagerClient& SystemAbilityManagerClient::GetInstance()
-{
-    static SystemAbilityManagerClient* instance = new SystemAbilityManagerClient();
-    return *instance;
-}
-
-sptr<ISystemAbilityManager> SystemAbilityManagerClient::GetSystemAbilityManager()
+namespace {
+// The manager of another process when this one is told to use it, else this process's own.
+sptr<ISystemAbilityManager> Reach()
 {
     if (HostSamgrConnection::IsAcrossProcesses()) {
         return HostSamgrConnection::Manager();
@@ -39,6 +36,22 @@ sptr<ISystemAbilityManager> SystemAbilityManagerClient::GetSystemAbilityManager(
     }
     return &manager;
 }
+} // namespace
+
+SystemAbilityManagerClient& SystemAbilityManagerClient::GetInstance()
+{
+    static SystemAbilityManagerClient* instance = new SystemAbilityManagerClient();
+    return *instance;
+}
+
+sptr<ISystemAbilityManager> SystemAbilityManagerClient::GetSystemAbilityManager()
+{
+    std::lock_guard<std::mutex> lock(systemAbilityManagerLock_);
+    if (systemAbilityManager_ == nullptr) {
+        systemAbilityManager_ = Reach();
+    }
+    return systemAbilityManager_;
+}
 
 sptr<IRemoteObject> SystemAbilityManagerClient::GetRegistryRemoteObject()
 {
@@ -46,6 +59,10 @@ sptr<IRemoteObject> SystemAbilityManagerClient::GetRegistryRemoteObject()
     return manager != nullptr ? manager->AsObject() : nullptr;
 }
 
-void SystemAbilityManagerClient::DestroySystemAbilityManagerObject() {}
+void SystemAbilityManagerClient::DestroySystemAbilityManagerObject()
+{
+    std::lock_guard<std::mutex> lock(systemAbilityManagerLock_);
+    systemAbilityManager_ = nullptr;
+}
 
 } // namespace OHOS

@@ -17,22 +17,26 @@
  * Host: the system ability manager of the emulated device. Every ability lives "in another process": callers
  * get the remote object that stands for it. Scripted by SamgrHostControl. Served to other processes, it starts
  * abilities as processes of their own and forgets an ability when its process ends.
+ *
+ * Each job is a part of its own: the registry of abilities, their loading, the scripted faults, the call
+ * counters, the processes started for abilities, and the socket server.
  */
 #ifndef OHOS_SAMGR_SYSTEM_ABILITY_MANAGER_HOST_H
 #define OHOS_SAMGR_SYSTEM_ABILITY_MANAGER_HOST_H
 
-#include <condition_variable>
-#include <deque>
-#include <map>
-#include <memory>
-#include <mutex>
 #include <string>
 #include <sys/types.h>
+#include <vector>
 
-#include "child_process.h"
+#include "ability_loader.h"
+#include "ability_registry.h"
+#include "call_counters.h"
 #include "if_system_ability_manager.h"
 #include "iremote_stub.h"
+#include "process_supervisor.h"
 #include "samgr_host_control.h"
+#include "samgr_socket_server.h"
+#include "scripted_faults.h"
 
 namespace OHOS {
 
@@ -54,14 +58,12 @@ public:
     int32_t LoadSystemAbility(int32_t systemAbilityId, const std::string& deviceId,
                               const sptr<ISystemAbilityLoadCallback>& callback) override;
     int32_t UnloadSystemAbility(int32_t systemAbilityId) override;
-    // What other processes ask, when this process serves them.
-    int OnRemoteRequest(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option) override;
+    // LoadSystemAbility with the callback's remote object, as another process sends it.
+    int32_t Load(int32_t systemAbilityId, const sptr<IRemoteObject>& callback);
 
     bool ServeAcrossProcesses(const std::string& socketPath);
     bool IsServing();
     void RegisterProcess(int32_t systemAbilityId, SamgrHostControl::CommandLine commandLine);
-    // Drops the ability if `object` is still the one registered for the id.
-    void Forget(int32_t systemAbilityId, const wptr<IRemoteObject>& object);
     void RegisterLoader(int32_t systemAbilityId, SamgrHostControl::Loader loader);
     void ScriptLoads(const LoadScript& script, int count);
     void SetUnavailable(bool unavailable);
@@ -75,32 +77,14 @@ public:
     void Reset();
 
 private:
-    SystemAbilityManagerHost() = default;
+    SystemAbilityManagerHost();
 
-    // The ability if it is registered and its object is alive; called with mutex_ held.
-    sptr<IRemoteObject> Running(int32_t systemAbilityId);
-    sptr<IRemoteObject> Lookup(int32_t systemAbilityId);
-    // The running ability, or the one its loader starts now; null if neither.
-    sptr<IRemoteObject> FindOrStart(int32_t systemAbilityId);
-    sptr<IRemoteObject> Publish(int32_t systemAbilityId, const sptr<IRemoteObject>& ability);
-    int32_t Load(int32_t systemAbilityId, const sptr<IRemoteObject>& callback);
-    void DeliverLoad(int32_t systemAbilityId, const sptr<IRemoteObject>& callback, const LoadScript& script);
-    // Starts the ability's process and waits for it to add the ability.
-    sptr<IRemoteObject> StartProcess(int32_t systemAbilityId, const std::vector<std::string>& commandLine);
-
-    std::mutex mutex_;
-    // Serialises starts, so concurrent loads of an ability that is not running start one process, not two.
-    std::mutex startMutex_;
-    std::map<int32_t, sptr<IRemoteObject>> abilities_;
-    std::map<int32_t, SamgrHostControl::Loader> loaders_;
-    std::map<int32_t, std::unique_ptr<ChildProcess>> processes_;
-    std::condition_variable added_;
-    std::string socketPath_;
-    std::deque<LoadScript> scripts_;
-    std::map<int32_t, int> lookups_;
-    std::map<int32_t, int> loads_;
-    bool unavailable_ = false;
-    bool deathRecipientsRefused_ = false;
+    AbilityRegistry registry_;
+    ScriptedFaults faults_;
+    CallCounters counters_;
+    ProcessSupervisor processes_;
+    AbilityLoader loader_;
+    const sptr<SamgrSocketServer> server_;
 };
 
 } // namespace OHOS

@@ -21,23 +21,22 @@
 
 namespace OHOS {
 
-bool SystemAbilityManagerProxy::Transact(SamgrHostCode code, const std::function<bool(MessageParcel&)>& write,
-                                         MessageParcel& reply)
+int SystemAbilityManagerProxy::Transact(SamgrHostCode code, const std::function<bool(MessageParcel&)>& write,
+                                        MessageParcel& reply)
 {
     MessageParcel data;
     MessageOption option;
     sptr<IRemoteObject> remote = Remote();
     if (remote == nullptr || !data.WriteInterfaceToken(GetDescriptor()) || !write(data)) {
         SAMGR_HOST_LOGE("cannot write request %{public}u", static_cast<uint32_t>(code));
-        return false;
+        return ERR_FLATTEN_OBJECT;
     }
     const int result = remote->SendRequest(static_cast<uint32_t>(code), data, reply, option);
     if (result != ERR_NONE) {
         SAMGR_HOST_LOGE("request %{public}u to the system ability manager failed: %{public}d",
                         static_cast<uint32_t>(code), result);
-        return false;
     }
-    return true;
+    return result;
 }
 
 int32_t SystemAbilityManagerProxy::TransactInt(SamgrHostCode code, int32_t systemAbilityId, int32_t failure)
@@ -45,7 +44,8 @@ int32_t SystemAbilityManagerProxy::TransactInt(SamgrHostCode code, int32_t syste
     MessageParcel reply;
     int32_t answer = failure;
     if (Transact(
-            code, [systemAbilityId](MessageParcel& data) { return data.WriteInt32(systemAbilityId); }, reply)) {
+            code, [systemAbilityId](MessageParcel& data) { return data.WriteInt32(systemAbilityId); }, reply) ==
+        ERR_NONE) {
         reply.ReadInt32(answer);
     }
     return answer;
@@ -54,8 +54,9 @@ int32_t SystemAbilityManagerProxy::TransactInt(SamgrHostCode code, int32_t syste
 sptr<IRemoteObject> SystemAbilityManagerProxy::TransactObject(SamgrHostCode code, int32_t systemAbilityId)
 {
     MessageParcel reply;
-    if (!Transact(
-            code, [systemAbilityId](MessageParcel& data) { return data.WriteInt32(systemAbilityId); }, reply) ||
+    if (Transact(
+            code, [systemAbilityId](MessageParcel& data) { return data.WriteInt32(systemAbilityId); }, reply) !=
+            ERR_NONE ||
         !reply.ReadBool()) {
         return nullptr;
     }
@@ -67,7 +68,8 @@ std::vector<std::u16string> SystemAbilityManagerProxy::ListSystemAbilities(unsig
     MessageParcel reply;
     std::vector<std::u16string> names;
     if (Transact(
-            SamgrHostCode::LIST, [dumpFlags](MessageParcel& data) { return data.WriteUint32(dumpFlags); }, reply)) {
+            SamgrHostCode::LIST, [dumpFlags](MessageParcel& data) { return data.WriteUint32(dumpFlags); }, reply) ==
+        ERR_NONE) {
         reply.ReadString16Vector(&names);
     }
     return names;
@@ -116,7 +118,7 @@ int32_t SystemAbilityManagerProxy::AddSystemAbility(int32_t systemAbilityId, con
     if (Transact(
             SamgrHostCode::ADD,
             [&](MessageParcel& data) { return data.WriteInt32(systemAbilityId) && data.WriteRemoteObject(ability); },
-            reply)) {
+            reply) == ERR_NONE) {
         reply.ReadInt32(result);
     }
     return result;
@@ -130,18 +132,22 @@ sptr<IRemoteObject> SystemAbilityManagerProxy::LoadSystemAbility(int32_t systemA
 int32_t SystemAbilityManagerProxy::LoadSystemAbility(int32_t systemAbilityId,
                                                      const sptr<ISystemAbilityLoadCallback>& callback)
 {
-    MessageParcel reply;
-    int32_t result = ERR_INVALID_VALUE;
-    if (callback != nullptr && Transact(
-                                   SamgrHostCode::LOAD,
-                                   [&](MessageParcel& data) {
-                                       return data.WriteInt32(systemAbilityId) &&
-                                              data.WriteRemoteObject(callback->AsObject());
-                                   },
-                                   reply)) {
-        reply.ReadInt32(result);
+    if (callback == nullptr) {
+        SAMGR_HOST_LOGE("no callback to load %{public}d", systemAbilityId);
+        return ERR_INVALID_VALUE;
     }
-    return result;
+    MessageParcel reply;
+    const int sent = Transact(
+        SamgrHostCode::LOAD,
+        [&](MessageParcel& data) {
+            return data.WriteInt32(systemAbilityId) && data.WriteRemoteObject(callback->AsObject());
+        },
+        reply);
+    if (sent != ERR_NONE) {
+        return sent;
+    }
+    int32_t result = ERR_OK;
+    return reply.ReadInt32(result) ? result : ERR_FLATTEN_OBJECT;
 }
 
 int32_t SystemAbilityManagerProxy::LoadSystemAbility(int32_t systemAbilityId, const std::string& deviceId,
@@ -164,7 +170,8 @@ void SystemAbilityManagerProxy::ScriptLoads(const LoadScript& script, int count)
         SamgrHostCode::SCRIPT_LOADS,
         [&](MessageParcel& data) {
             return data.WriteInt32(static_cast<int32_t>(script.outcome)) && data.WriteInt64(script.delay.count()) &&
-                   data.WriteInt32(script.otherId) && data.WriteInt32(script.refuseCode) && data.WriteInt32(count);
+                   data.WriteInt32(script.otherId) && data.WriteInt32(script.refuseCode) &&
+                   data.WriteInt32(script.failCode) && data.WriteInt32(count);
         },
         reply);
 }

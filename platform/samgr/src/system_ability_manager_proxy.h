@@ -56,8 +56,9 @@ public:
     int LoadCount(int32_t systemAbilityId);
 
 private:
-    // Sends the request that `write` fills after the token; false (logged) if it cannot be written or sent.
-    bool Transact(SamgrHostCode code, const std::function<bool(MessageParcel&)>& write, MessageParcel& reply);
+    // Sends the request that `write` fills after the token: ERR_NONE, or the error (logged) that kept it from being
+    // written or answered.
+    int Transact(SamgrHostCode code, const std::function<bool(MessageParcel&)>& write, MessageParcel& reply);
     // The int32 that the request's reply holds, or `failure`.
     int32_t TransactInt(SamgrHostCode code, int32_t systemAbilityId, int32_t failure);
     sptr<IRemoteObject> TransactObject(SamgrHostCode code, int32_t systemAbilityId);

@@ -30,6 +30,7 @@
 #include <vector>
 
 #include "child_process.h"
+#include "iservice_registry.h"
 #include "samgr_host_control.h"
 #include "share_emulator.h"
 
@@ -56,6 +57,7 @@ public:
     void Enter()
     {
         setenv(SamgrHostControl::SOCKET_ENVIRONMENT, socket_.c_str(), 1);
+        SystemAbilityManagerClient::GetInstance().DestroySystemAbilityManagerObject();
         KillBoth();
     }
     // Both services die, so that the clients drop their proxies to them, and this process uses its own manager.
@@ -65,6 +67,7 @@ public:
             KillBoth();
         }
         unsetenv(SamgrHostControl::SOCKET_ENVIRONMENT);
+        SystemAbilityManagerClient::GetInstance().DestroySystemAbilityManagerObject();
     }
 
 private:

@@ -65,8 +65,7 @@ TEST_F(ShareClientConnectionTest, ALoadEndsTheWaitAtOnceAndAConnectedClientAsksF
 
 TEST_F(ShareClientConnectionTest, ALoadThatBringsNoServiceEndsAtTheDeadlineAndTheNextConnectAsksAgain)
 {
-    for (LoadScript::Outcome outcome :
-         {LoadScript::Outcome::OTHER_ID, LoadScript::Outcome::NULL_OBJECT, LoadScript::Outcome::FAIL}) {
+    for (LoadScript::Outcome outcome : {LoadScript::Outcome::OTHER_ID, LoadScript::Outcome::FAIL}) {
         LoadScript script;
         script.outcome = outcome;
         script.otherId = SHARE_SERVICE_SA_ID + 1;

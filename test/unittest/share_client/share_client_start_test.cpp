@@ -20,6 +20,7 @@
 #include <chrono>
 #include <cstdlib>
 
+#include "iservice_registry.h"
 #include "share_service_harness.h"
 
 namespace OHOS {
@@ -69,6 +70,7 @@ TEST(ShareClientStartTest, TheFirstUseLoadsTheServiceAndAFailedFirstLoadIsAskedA
 
     client.ResetProxy(RunningShareService());
     SamgrHostControl::SetManagerUnavailable(true);
+    SystemAbilityManagerClient::GetInstance().DestroySystemAbilityManagerObject();
     log.Clear();
     EXPECT_EQ(client.Connect(), -1);
     ExpectLines(log, {{CLIENT_TAG, LOG_ERROR, "GetSystemAbilityManager failed."},

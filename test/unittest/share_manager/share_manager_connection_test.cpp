@@ -20,6 +20,7 @@
 #include <memory>
 
 #include "ipc_threads.h"
+#include "iservice_registry.h"
 
 #include "share_manager_harness.h"
 #include "share_manager_srv_proxy.h"
@@ -56,6 +57,7 @@ TEST_F(ShareManagerConnectionTest, ASecondConnectKeepsTheProxyWithoutALookup)
 TEST_F(ShareManagerConnectionTest, NoSystemAbilityManagerOrARefusedDeathRecipientLeavesNoProxy)
 {
     SamgrHostControl::SetManagerUnavailable(true);
+    SystemAbilityManagerClient::GetInstance().DestroySystemAbilityManagerObject();
     EXPECT_EQ(Client().Connect(), -1);
     SamgrHostControl::SetManagerUnavailable(false);
     SamgrHostControl::SetDeathRecipientsRefused(true);

@@ -155,6 +155,9 @@ const std::vector<Case> CASES = {
     // Two failed loads: the first use loads once, and a Connect that hears of the failure first asks once more.
     {"FaultLoadFails", "--fault load-fail:2 call Publish", "", 0, "Publish -> 0 (refused, or the call failed"},
     {"FaultLoadLate", "--fault load-delay:300 call Publish", "", 0, "Load zelkon SA after 200ms"},
+    // The load callback hears the error code; the library does not log it, the platform's callback stub does.
+    {"FaultLoadError", "--log-level info --fault load-error:12 call Publish", "", 0,
+     "system ability 65569 failed to load: 12"},
     {"FaultDiesInRequest", "--fault die-in:26 call GetPermanentDeviceList", "", 0,
      "SendRequest is failed, error code: 29189"},
     {"FaultOversizedReply", "--fault oversized-reply call GetPermanentDeviceList", "", 0,
@@ -182,6 +185,8 @@ const std::vector<Case> CASES = {
      "SendRequest is failed, error code: 29201"},
     {"ProcessesFaultInTheManager", "--processes --fault load-fail:2 call Publish", "", 0,
      "Publish -> 0 (refused, or the call failed"},
+    {"ProcessesFaultLoadError", "--processes --log-level info --fault load-error:12 call Publish", "", 0,
+     "system ability 65569 failed to load: 12"},
 };
 
 class SharectlTest : public testing::TestWithParam<Case> {};

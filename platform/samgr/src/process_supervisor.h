@@ -1,0 +1,64 @@
+/*
+ * Copyright (c) 2026 The libshare_client Authors.
+ * Licensed under the Apache License, Version 2.0 (the "License");
+ * you may not use this file except in compliance with the License.
+ * You may obtain a copy of the License at
+ *
+ *     http://www.apache.org/licenses/LICENSE-2.0
+ *
+ * Unless required by applicable law or agreed to in writing, software
+ * distributed under the License is distributed on an "AS IS" BASIS,
+ * WITHOUT WARRANTIES OR CONDITIONS OF ANY KIND, either express or implied.
+ * See the License for the specific language governing permissions and
+ * limitations under the License.
+ */
+
+/*
+ * Host: the processes that the system ability manager starts for its abilities when it serves other processes.
+ * Each is bound to the manager's life; one that ends is forgotten with its ability.
+ */
+#ifndef OHOS_SAMGR_PROCESS_SUPERVISOR_H
+#define OHOS_SAMGR_PROCESS_SUPERVISOR_H
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+#include "ability_registry.h"
+#include "child_process.h"
+
+namespace OHOS {
+
+class ProcessSupervisor {
+public:
+    explicit ProcessSupervisor(AbilityRegistry& registry) : registry_(registry) {}
+
+    // Starts the ability's process, which finds the manager at the socket path, and waits for it to add the
+    // ability: null (logged) if it cannot start, ends first, or has not added it within 10 s.
+    sptr<IRemoteObject> StartProcess(int32_t systemAbilityId, const std::vector<std::string>& commandLine,
+                                     const std::string& socketPath);
+    // Kills process pid, which stands behind the ability, and returns once its end is seen here.
+    pid_t Kill(int32_t systemAbilityId, pid_t pid);
+    // Forgets the ability's process if it has ended.
+    void DropEnded(int32_t systemAbilityId);
+    // Every process, no longer supervised: they are stopped as they are destroyed.
+    std::map<int32_t, std::unique_ptr<ChildProcess>> TakeAll();
+
+private:
+    // Whether pid is still the ability's process and starting: false once it is replaced, has ended or is given up
+    // (then it is taken out into `dropped`).
+    bool StillStarting(int32_t systemAbilityId, pid_t pid, bool givenUp,
+                       std::vector<std::unique_ptr<ChildProcess>>& dropped);
+
+    AbilityRegistry& registry_;
+    std::mutex mutex_;
+    std::map<int32_t, std::unique_ptr<ChildProcess>> processes_;
+};
+
+} // namespace OHOS
+
+#endif // OHOS_SAMGR_PROCESS_SUPERVISOR_H
