@@ -107,8 +107,11 @@ int Run(const Invocation& invocation, Session& session, Output& out)
 int Serve(const CommandLine& line, const EmulatedWorld& world)
 {
     EmulatorProcesses::Options options{line.socketPath, ProcessesWorld::ServiceExecutable(), world, line.faults};
-    if (!EmulatorProcesses::Serve(options)) {
-        std::cerr << "sharectl: cannot serve at " << line.socketPath << std::endl;
+    if (line.socketPath.empty() || !EmulatorProcesses::Serve(options)) {
+        std::cerr << "sharectl: cannot serve at "
+                  << (line.socketPath.empty() ? "the default socket: there is no private directory for it"
+                                              : line.socketPath)
+                  << std::endl;
         return EXIT_FAILED;
     }
     std::cout << "serving the share services at " << line.socketPath << " (share manager service in process "

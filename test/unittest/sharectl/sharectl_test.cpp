@@ -24,6 +24,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <map>
@@ -355,8 +356,8 @@ TEST_P(SharectlSignalTest, LeavesNoTemporaryFileAndNoProcess)
 }
 
 // The traced session in processes writes more than a pipe that nobody reads holds: the signal comes while sharectl
-// waits to write, its services running.
-TEST_P(SharectlSignalTest, InASessionInProcessesLeavesNoTemporaryFileAndNoProcess)
+// waits to write, its services running. The directory is also its runtime directory, where its manager's socket is.
+TEST_P(SharectlSignalTest, InASessionInProcessesLeavesNoTemporaryFileNoSocketAndNoProcess)
 {
     char directory[] = "/tmp/sharectl-signal-XXXXXX";
     ASSERT_NE(mkdtemp(directory), nullptr);
@@ -368,6 +369,7 @@ TEST_P(SharectlSignalTest, InASessionInProcessesLeavesNoTemporaryFileAndNoProces
         dup2(out[1], STDOUT_FILENO);
         dup2(out[1], STDERR_FILENO);
         setenv("TMPDIR", directory, 1);
+        setenv("XDG_RUNTIME_DIR", directory, 1);
         execl(SHARECTL_PATH, "sharectl", "--processes", "--trace", static_cast<char*>(nullptr));
         _exit(127);
     }
@@ -389,6 +391,11 @@ TEST_P(SharectlSignalTest, InASessionInProcessesLeavesNoTemporaryFileAndNoProces
         started.insert(started.end(), services.begin(), services.end());
     }
     EXPECT_GE(started.size(), 2u) << "the manager and the share manager service";
+    const std::vector<std::string> files = FilesIn(directory);
+    EXPECT_EQ(std::count_if(files.begin(), files.end(),
+                            [](const std::string& name) { return name.find(".sock") != std::string::npos; }),
+              1)
+        << "no socket in the runtime directory";
 
     ASSERT_EQ(kill(child, GetParam()), 0);
     int status = 0;
@@ -396,7 +403,8 @@ TEST_P(SharectlSignalTest, InASessionInProcessesLeavesNoTemporaryFileAndNoProces
     close(out[0]);
 
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == GetParam()) << "status " << status;
-    EXPECT_EQ(FilesIn(directory), std::vector<std::string>());
+    // The manager removes its socket as it ends.
+    EXPECT_TRUE(Eventually([&directory] { return FilesIn(directory).empty(); })) << FilesIn(directory).size();
     for (pid_t process : started) {
         EXPECT_TRUE(Eventually([process] { return Gone(process); })) << "process " << process << " is left";
     }
