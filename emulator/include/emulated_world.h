@@ -44,7 +44,10 @@ struct EmulatedWorld {
     // field in `error` ("users[1].deviceType: ..."). Sections left out keep the built-in world's; fields left out
     // of a record are 0, false or empty.
     static std::optional<EmulatedWorld> FromJson(const std::string& text, std::string& error);
-    // FromJson of a file of at most 64 MiB; an unreadable file is refused with the reason in `error`.
+    // FromJson of what the descriptor reads until its end, at most 64 MiB; what cannot be read is refused with the
+    // reason in `error`.
+    static std::optional<EmulatedWorld> FromStream(int fd, std::string& error);
+    // FromStream of a regular file, opened without waiting: anything else (a FIFO, a device, a directory) is refused.
     static std::optional<EmulatedWorld> FromFile(const std::string& path, std::string& error);
     // Every section and every field, indented.
     std::string ToJson() const;

@@ -44,14 +44,15 @@ public:
         std::vector<EmulatorFault> faults;
     };
 
-    // Where `sharectl serve` serves unless told otherwise: one socket per user.
+    // Where `sharectl serve` serves unless told otherwise: share-emulator.sock in the user's private runtime
+    // directory (UserRuntimeDirectory); empty (logged) when there is none.
     static std::string DefaultSocketPath();
     // A path at which the processes this one starts read the world as a file, for as long as this process lives (a
     // memory file of this process): the world is read once, whatever path or stream it came from.
     static std::string WorldFileOf(const EmulatedWorld& world);
     // Blocks SIGINT and SIGTERM in the calling thread (call it before any thread starts, so that every thread
     // inherits the mask), serves the manager and starts the share manager service. False (logged) if the socket
-    // cannot be served or the share manager service does not start.
+    // cannot be served or the share manager service does not start; the socket file is removed then.
     static bool Serve(const Options& options);
     // Waits for SIGINT or SIGTERM, or, with `watchStarter`, for the process that started this one to let it go;
     // then kills the service processes and stops serving.

@@ -26,6 +26,7 @@
 #define SHARE_EMULATOR_H
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "decoded_request.h"
@@ -59,8 +60,9 @@ public:
     // Arms a fault for the next load or request that it concerns; each armed fault plays once.
     static void InjectFault(const EmulatorFault& fault);
     // Each service's state as indented JSON: listeners and callbacks, transfers, devices, the switch, and its
-    // requests counted by code; a service whose process is not running shows only that.
-    static std::string DumpState();
+    // requests counted by code; a service whose process is not running shows only that. Empty (logged) when a
+    // service's dump is not its state as a JSON object.
+    static std::optional<std::string> DumpState();
 };
 
 } // namespace Zelkon

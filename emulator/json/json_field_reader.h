@@ -43,12 +43,25 @@ public:
     using std::runtime_error::runtime_error;
 };
 
-// Parses a whole document; a syntax error is a JsonFieldError that says where.
-inline nlohmann::json ParseJsonText(const std::string& text)
+// Far deeper than any record nests. A deeper document is refused while it is read, before it is built: building,
+// printing and destroying a value recurse as deep as it nests.
+inline constexpr int MAX_JSON_DEPTH = 64;
+
+// Parses a whole document (nlohmann::json or nlohmann::ordered_json); a syntax error, a number out of the range
+// of a double, or nesting deeper than MAX_JSON_DEPTH is a JsonFieldError that says where or what.
+template <typename Json = nlohmann::json>
+Json ParseJsonText(const std::string& text)
 {
+    const auto boundDepth = [](int depth, typename Json::parse_event_t event, Json&) {
+        if (depth >= MAX_JSON_DEPTH &&
+            (event == Json::parse_event_t::object_start || event == Json::parse_event_t::array_start)) {
+            throw JsonFieldError("invalid JSON: nested deeper than " + std::to_string(MAX_JSON_DEPTH) + " levels");
+        }
+        return true;
+    };
     try {
-        return nlohmann::json::parse(text);
-    } catch (const nlohmann::json::parse_error& error) {
+        return Json::parse(text, boundDepth);
+    } catch (const nlohmann::json::exception& error) {
         const std::string what = error.what();
         throw JsonFieldError("invalid JSON: " + what.substr(what.find(' ') + 1));
     }
@@ -124,7 +137,8 @@ private:
     static JsonFieldError Refusal(const std::string& path, const std::string& what, const nlohmann::json& json)
     {
         constexpr size_t SHOWN = 40;
-        std::string shown = json.dump();
+        // A record or a list is named, not printed: it may be as large as the document.
+        std::string shown = json.is_object() ? "an object" : json.is_array() ? "an array" : json.dump();
         if (shown.size() > SHOWN) {
             shown = shown.substr(0, SHOWN) + "...";
         }

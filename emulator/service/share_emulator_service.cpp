@@ -82,9 +82,11 @@ int main(int argc, char* argv[])
         return app.exit(CLI::ValidationError("--world", error));
     }
     options.world = *world;
-    if (!EmulatorProcesses::Serve(options) || !OHOS::ChildProcess::SayReady()) {
+    if (!EmulatorProcesses::Serve(options)) {
         return EXIT_FAILURE;
     }
+    // Unheard when the starter is gone already: then the wait ends at once, and the socket file goes with it.
+    OHOS::ChildProcess::SayReady();
     EmulatorProcesses::WaitUntilStopped(true);
     std::_Exit(EXIT_SUCCESS);
 }

@@ -17,7 +17,9 @@
 
 #include <cerrno>
 #include <cstring>
-#include <fstream>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <vector>
 
 #include "emulated_record_fields.h"
@@ -39,26 +41,50 @@ std::optional<EmulatedWorld> EmulatedWorld::FromJson(const std::string& text, st
     }
 }
 
-std::optional<EmulatedWorld> EmulatedWorld::FromFile(const std::string& path, std::string& error)
+std::optional<EmulatedWorld> EmulatedWorld::FromStream(int fd, std::string& error)
 {
     // A world is a few records and a preview text; more is a mistake, such as a device given as the file.
-    constexpr size_t MAX_WORLD_FILE = 64 * 1024 * 1024;
+    constexpr size_t MAX_WORLD_TEXT = 64 * 1024 * 1024;
     constexpr size_t READ_CHUNK = 64 * 1024;
-    std::ifstream file(path, std::ios::binary);
     std::string text;
     std::vector<char> chunk(READ_CHUNK);
-    while (file && (file.read(chunk.data(), static_cast<std::streamsize>(chunk.size())) || file.gcount() > 0)) {
-        text.append(chunk.data(), static_cast<size_t>(file.gcount()));
-        if (text.size() > MAX_WORLD_FILE) {
-            error = "larger than " + std::to_string(MAX_WORLD_FILE) + " bytes";
+    for (;;) {
+        const ssize_t count = read(fd, chunk.data(), chunk.size());
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count < 0) {
+            error = std::string("cannot be read: ") + std::strerror(errno);
+            return std::nullopt;
+        }
+        if (count == 0) {
+            return FromJson(text, error);
+        }
+        text.append(chunk.data(), static_cast<size_t>(count));
+        if (text.size() > MAX_WORLD_TEXT) {
+            error = "larger than " + std::to_string(MAX_WORLD_TEXT) + " bytes";
             return std::nullopt;
         }
     }
-    if (!file.is_open() || file.bad()) {
-        error = std::string("cannot be read: ") + std::strerror(errno);
+}
+
+std::optional<EmulatedWorld> EmulatedWorld::FromFile(const std::string& path, std::string& error)
+{
+    // Opened without waiting: opening a FIFO waits for a writer, which may never come.
+    const int fd = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) {
+        error = std::string("cannot be opened: ") + std::strerror(errno);
         return std::nullopt;
     }
-    return FromJson(text, error);
+    struct stat status {};
+    std::optional<EmulatedWorld> world;
+    if (fstat(fd, &status) != 0 || !S_ISREG(status.st_mode)) {
+        error = "not a regular file";
+    } else {
+        world = FromStream(fd, error);
+    }
+    close(fd);
+    return world;
 }
 
 std::string EmulatedWorld::ToJson() const

@@ -34,6 +34,7 @@
 #include "share_emulator.h"
 #include "share_manager_stub.h"
 #include "share_service_stub.h"
+#include "user_runtime_directory.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -71,7 +72,7 @@ std::vector<std::string> ServiceCommandLine(const std::string& executable, const
 
 std::string EmulatorProcesses::DefaultSocketPath()
 {
-    return "/tmp/share-emulator-" + std::to_string(getuid()) + ".sock";
+    return UserRuntimeDirectory::SocketPath("share-emulator.sock");
 }
 
 std::string EmulatorProcesses::WorldFileOf(const EmulatedWorld& world)
@@ -89,6 +90,8 @@ bool EmulatorProcesses::Serve(const Options& options)
 {
     const sigset_t signals = StopSignals();
     pthread_sigmask(SIG_BLOCK, &signals, nullptr);
+    // A starter gone before the ready line must not end this process before it removes its socket file.
+    std::signal(SIGPIPE, SIG_IGN);
     if (!SamgrHostControl::ServeAcrossProcesses(options.socketPath)) {
         return false;
     }
@@ -116,6 +119,7 @@ bool EmulatorProcesses::Serve(const Options& options)
     sptr<ISystemAbilityManager> manager = SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager();
     if (manager->GetSystemAbility(EMULATED_SHARE_MANAGER_ID) == nullptr) {
         EMULATOR_LOGE("the share manager service %{public}d did not start", EMULATED_SHARE_MANAGER_ID);
+        IpcHostTransport::StopServingContextObject();
         return false;
     }
     return true;
@@ -132,9 +136,10 @@ void EmulatorProcesses::WaitUntilStopped(bool watchStarter)
     const sigset_t signals = StopSignals();
     int signal = 0;
     sigwait(&signals, &signal);
+    // The socket file goes first: stopping the services may take until a starter's grace time runs out.
+    IpcHostTransport::StopServingContextObject();
     SamgrHostControl::KillSystemAbility(EMULATED_SHARE_SERVICE_ID);
     SamgrHostControl::KillSystemAbility(EMULATED_SHARE_MANAGER_ID);
-    IpcHostTransport::StopServingContextObject();
 }
 
 int EmulatorProcesses::RunService(int32_t systemAbilityId, const std::string& worldFile,

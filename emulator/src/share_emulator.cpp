@@ -17,11 +17,14 @@
 
 #include <cstdio>
 #include <memory>
+#include <optional>
+#include <string>
 #include <sys/mman.h>
 #include <unistd.h>
 
 #include "emulator_log.h"
 #include "iservice_registry.h"
+#include "json_field_reader.h"
 #include "remote_trace.h"
 #include "samgr_host_control.h"
 #include "share_manager_stub.h"
@@ -72,13 +75,31 @@ void ArmInShareServiceProcess(const EmulatorFault& fault)
     }
 }
 
-nlohmann::ordered_json DumpOf(int32_t systemAbilityId)
+// A service's state, as the service says it: another process may answer anything. Empty (logged) when its dump is
+// not a JSON object.
+std::optional<nlohmann::ordered_json> DumpOf(int32_t systemAbilityId)
 {
     sptr<IRemoteObject> service = RunningService(systemAbilityId);
     nlohmann::ordered_json dump = {{"running", service != nullptr}};
-    if (service != nullptr) {
-        dump.update(nlohmann::ordered_json::parse(DumpText(service, {}), nullptr, false));
+    if (service == nullptr) {
+        return dump;
     }
+    nlohmann::ordered_json state;
+    std::string refusal;
+    try {
+        state = ParseJsonText<nlohmann::ordered_json>(DumpText(service, {}));
+    } catch (const JsonFieldError& error) {
+        refusal = error.what();
+    }
+    if (refusal.empty() && !state.is_object()) {
+        refusal = "not a JSON object";
+    }
+    if (!refusal.empty()) {
+        EMULATOR_LOGE("the dump of system ability %{public}d is not its state: %{public}s", systemAbilityId,
+                      refusal.c_str());
+        return std::nullopt;
+    }
+    dump.update(state);
     return dump;
 }
 } // namespace
@@ -167,10 +188,14 @@ void ShareEmulator::InjectFault(const EmulatorFault& fault)
     }
 }
 
-std::string ShareEmulator::DumpState()
+std::optional<std::string> ShareEmulator::DumpState()
 {
-    const nlohmann::ordered_json dump = {{"shareService", DumpOf(EMULATED_SHARE_SERVICE_ID)},
-                                         {"shareManager", DumpOf(EMULATED_SHARE_MANAGER_ID)}};
+    const std::optional<nlohmann::ordered_json> shareService = DumpOf(EMULATED_SHARE_SERVICE_ID);
+    const std::optional<nlohmann::ordered_json> shareManager = DumpOf(EMULATED_SHARE_MANAGER_ID);
+    if (!shareService || !shareManager) {
+        return std::nullopt;
+    }
+    const nlohmann::ordered_json dump = {{"shareService", *shareService}, {"shareManager", *shareManager}};
     constexpr int INDENT = 2;
     return dump.dump(INDENT, ' ', false, nlohmann::json::error_handler_t::replace);
 }

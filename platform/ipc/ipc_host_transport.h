@@ -38,13 +38,14 @@ namespace OHOS {
 
 class IpcHostTransport {
 public:
-    // Serves the local object as this process's context object (handle 0) at the filesystem socket path, removing a
-    // stale socket file first, until the process ends or serving stops. False (logged) if the path cannot be served
-    // or this process already serves one.
+    // Serves the local object as this process's context object (handle 0) at the filesystem socket path, which
+    // UserRuntimeDirectory::MayBind must allow, replacing a stale socket file of the user's own, until the process
+    // ends or serving stops. False (logged) if the path cannot be served or this process already serves one.
     static bool ServeContextObject(const std::string& path, const sptr<IRemoteObject>& object);
     // Removes the socket file; the object stays alive while other processes hold it.
     static void StopServingContextObject();
-    // A proxy of the context object of the process serving at the path, or null (logged) if nobody serves there.
+    // A proxy of the context object of the process serving at the path, or null (logged) if nobody serves there or
+    // UserRuntimeDirectory::MayConnect refuses the path.
     static sptr<IRemoteObject> ConnectToContextObject(const std::string& path);
     // The pid of the process behind a proxy of this transport, as it said in its hello and the kernel confirmed,
     // or -1.

@@ -96,12 +96,12 @@ std::optional<CommandLine> ParseCommandLine(int argc, char* argv[])
         ->type_name("LEVEL");
     app.add_option("--world", line.worldFile, "start the emulator from this world file (the schema of 'world')")
         ->type_name("FILE");
-    line.socketPath = EmulatorProcesses::DefaultSocketPath();
     app.add_flag("--processes", line.processes,
                  "each service in a process of its own: join the 'serve' at --socket, or start one for this run");
-    app.add_option("--socket", line.socketPath, "the socket of the system ability manager of 'serve' and --processes")
-        ->type_name("PATH")
-        ->capture_default_str();
+    app.add_option("--socket", line.socketPath,
+                   "the socket of the system ability manager of 'serve' and --processes (default: share-emulator.sock "
+                   "in the user's private runtime directory)")
+        ->type_name("PATH");
     app.add_option("--fault", faults, "inject a fault (see below); repeatable")
         ->allow_extra_args(false)
         ->type_name("FAULT");
@@ -132,6 +132,10 @@ std::optional<CommandLine> ParseCommandLine(int argc, char* argv[])
             throw UsageError("--fault: " + error);
         }
         line.faults.push_back(*fault);
+    }
+    // Only a run that uses the socket makes the private directory for it.
+    if (line.socketPath.empty() && (line.processes || line.command == SERVE_COMMAND)) {
+        line.socketPath = EmulatorProcesses::DefaultSocketPath();
     }
     return line;
 }

@@ -52,6 +52,7 @@ struct CommandLine {
     bool dump = false;
     // Each service in a process of its own, under the system ability manager at the socket or one of this run's.
     bool processes = false;
+    // EmulatorProcesses::DefaultSocketPath() unless given; empty when there is no private directory for it.
     std::string socketPath;
     LogLevel logLevel = LOG_WARN;
 };

@@ -18,6 +18,9 @@
  * or any single operation, and tells what happened.
  */
 #include <iostream>
+#include <optional>
+#include <string>
+#include <unistd.h>
 #include <vector>
 
 #include "call_arguments.h"
@@ -37,6 +40,9 @@ using namespace OHOS::Zelkon;
 
 constexpr int EXIT_FAILED = 1;
 constexpr int EXIT_USAGE = 2;
+// --world -: the world is read from standard input.
+constexpr const char* STANDARD_INPUT = "-";
+constexpr const char* UNREADABLE_DUMP = "a service's state could not be read (the log says which and why)";
 
 EmulatedWorld LoadWorld(const std::string& path)
 {
@@ -44,7 +50,8 @@ EmulatedWorld LoadWorld(const std::string& path)
         return EmulatedWorld::BuiltIn();
     }
     std::string error;
-    std::optional<EmulatedWorld> world = EmulatedWorld::FromFile(path, error);
+    std::optional<EmulatedWorld> world =
+        path == STANDARD_INPUT ? EmulatedWorld::FromStream(STDIN_FILENO, error) : EmulatedWorld::FromFile(path, error);
     if (!world) {
         throw UsageError("--world " + path + ": " + error);
     }
@@ -98,7 +105,12 @@ int Run(const Invocation& invocation, Session& session, Output& out)
     } else if (command == WORLD_COMMAND) {
         ShowJsonText(invocation.world.ToJson(), out);
     } else if (command == DUMP_COMMAND) {
-        ShowJsonText(ShareEmulator::DumpState(), out);
+        const std::optional<std::string> state = ShareEmulator::DumpState();
+        if (!state) {
+            std::cerr << "sharectl: dump: " << UNREADABLE_DUMP << std::endl;
+            return EXIT_FAILED;
+        }
+        ShowJsonText(*state, out);
     }
     return 0;
 }
@@ -107,8 +119,11 @@ int Run(const Invocation& invocation, Session& session, Output& out)
 int Serve(const CommandLine& line, const EmulatedWorld& world)
 {
     EmulatorProcesses::Options options{line.socketPath, ProcessesWorld::ServiceExecutable(), world, line.faults};
-    if (!EmulatorProcesses::Serve(options)) {
-        std::cerr << "sharectl: cannot serve at " << line.socketPath << std::endl;
+    if (line.socketPath.empty() || !EmulatorProcesses::Serve(options)) {
+        std::cerr << "sharectl: cannot serve at "
+                  << (line.socketPath.empty() ? "the default socket: there is no private directory for it"
+                                              : line.socketPath)
+                  << std::endl;
         return EXIT_FAILED;
     }
     std::cout << "serving the share services at " << line.socketPath << " (share manager service in process "
@@ -118,7 +133,8 @@ int Serve(const CommandLine& line, const EmulatedWorld& world)
     return 0;
 }
 
-void AddTraceAndState(const CommandLine& line, Session& session, Output& out)
+// False when a service's state could not be read.
+bool AddTraceAndState(const CommandLine& line, Session& session, Output& out)
 {
     if (line.trace && out.IsJson()) {
         nlohmann::ordered_json& trace = out.Document()["trace"] = nlohmann::ordered_json::array();
@@ -126,12 +142,18 @@ void AddTraceAndState(const CommandLine& line, Session& session, Output& out)
             trace.push_back(TraceJson(request));
         }
     }
-    if (line.dump) {
-        const std::string state = ShareEmulator::DumpState();
-        out.Line("emulator state:");
-        out.Line(state);
-        out.Document()["emulatorState"] = nlohmann::ordered_json::parse(state);
+    if (!line.dump) {
+        return true;
     }
+    const std::optional<std::string> state = ShareEmulator::DumpState();
+    if (!state) {
+        std::cerr << "sharectl: --dump: " << UNREADABLE_DUMP << std::endl;
+        return false;
+    }
+    out.Line("emulator state:");
+    out.Line(*state);
+    out.Document()["emulatorState"] = nlohmann::ordered_json::parse(*state);
+    return true;
 }
 } // namespace
 
@@ -175,7 +197,9 @@ int main(int argc, char* argv[])
     Output out(line->json);
     ShareEmulator::SetTraceSink([&session](const DecodedRequest& request) { session->requests.Record(request); });
     int status = Run(*invocation, *session, out);
-    AddTraceAndState(*line, *session, out);
+    if (!AddTraceAndState(*line, *session, out)) {
+        status = EXIT_FAILED;
+    }
     ShareEmulator::SetTraceSink(nullptr);
     if (!out.Finish()) {
         status = EXIT_FAILED;

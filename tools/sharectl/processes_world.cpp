@@ -25,6 +25,7 @@
 #include "samgr_host_control.h"
 #include "share_emulator.h"
 #include "usage_error.h"
+#include "user_runtime_directory.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -33,7 +34,8 @@ constexpr auto START_TIMEOUT = std::chrono::seconds(10);
 
 bool Served(const std::string& socketPath)
 {
-    return access(socketPath.c_str(), F_OK) == 0 && IpcHostTransport::ConnectToContextObject(socketPath) != nullptr;
+    return !socketPath.empty() && access(socketPath.c_str(), F_OK) == 0 &&
+           IpcHostTransport::ConnectToContextObject(socketPath) != nullptr;
 }
 } // namespace
 
@@ -44,7 +46,11 @@ ProcessesWorld::ProcessesWorld(const CommandLine& line, const EmulatedWorld& wor
             throw UsageError("--world: the services at " + socketPath_ + " run their own world already");
         }
     } else {
-        socketPath_ = "/tmp/sharectl-" + std::to_string(getpid()) + ".sock";
+        // This run's own name, which no one can guess, in a directory that no one else can enter.
+        socketPath_ = UserRuntimeDirectory::UniqueSocketPath("sharectl");
+        if (socketPath_.empty()) {
+            throw std::runtime_error("there is no private directory for the socket of the system ability manager");
+        }
         std::vector<std::string> command = {ServiceExecutable(), "serve", "--socket", socketPath_};
         // Read once here: the path may mean nothing to another process (standard input, say).
         if (!line.worldFile.empty()) {
@@ -57,6 +63,8 @@ ProcessesWorld::ProcessesWorld(const CommandLine& line, const EmulatedWorld& wor
         options.readyTimeout = START_TIMEOUT;
         own_ = std::make_unique<ChildProcess>(command, options);
         if (!own_->Started()) {
+            // Killed for not saying it was ready in time, it may have left its socket file.
+            unlink(socketPath_.c_str());
             throw std::runtime_error("the system ability manager could not be started from " + command[0]);
         }
     }

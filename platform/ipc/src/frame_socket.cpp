@@ -19,8 +19,10 @@
 #include <cerrno>
 #include <cstddef>
 #include <cstring>
+#include <mutex>
 #include <poll.h>
 #include <sys/socket.h>
+#include <sys/stat.h>
 #include <sys/un.h>
 
 #include "ipc_log.h"
@@ -53,6 +55,25 @@ bool MakeAddress(const std::string& name, FrameSocket::Namespace space, Address&
     made.length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + offset + name.size() +
                                          (space == FrameSocket::Namespace::FILESYSTEM ? 1 : 0));
     return true;
+}
+
+// A socket file is made under a private umask, so that no other user can connect to it. The umask is the process's:
+// a file that another thread makes meanwhile is only made more private, and the lock keeps two binds from
+// restoring each other's umask.
+bool Bind(int socket, const Address& own, FrameSocket::Namespace space)
+{
+    constexpr mode_t PRIVATE_UMASK = S_IRWXG | S_IRWXO;
+    if (space == FrameSocket::Namespace::ABSTRACT) {
+        return bind(socket, reinterpret_cast<const sockaddr*>(&own.address), own.length) == 0;
+    }
+    static std::mutex umaskMutex;
+    std::lock_guard<std::mutex> lock(umaskMutex);
+    const mode_t previous = umask(PRIVATE_UMASK);
+    const int bound = bind(socket, reinterpret_cast<const sockaddr*>(&own.address), own.length);
+    const int bindError = errno;
+    umask(previous);
+    errno = bindError;
+    return bound == 0;
 }
 
 UniqueFd NewSocket()
@@ -250,8 +271,7 @@ UniqueFd FrameSocket::Listen(const std::string& address, Namespace space)
     if (socket < 0) {
         return socket;
     }
-    if (bind(socket.Get(), reinterpret_cast<const sockaddr*>(&own.address), own.length) != 0 ||
-        listen(socket.Get(), SOMAXCONN) != 0) {
+    if (!Bind(socket.Get(), own, space) || listen(socket.Get(), SOMAXCONN) != 0) {
         IPC_HOST_LOGE("cannot listen at %{public}s, errno %{public}d", address.c_str(), errno);
         return UniqueFd();
     }

@@ -53,7 +53,7 @@ public:
 
     // A connected socket, or an invalid one (logged).
     static UniqueFd Connect(const std::string& address, Namespace space);
-    // A socket listening at the address, or an invalid one (logged).
+    // A socket listening at the address, or an invalid one (logged). A socket file is made for this user only.
     static UniqueFd Listen(const std::string& address, Namespace space);
     // The process at the other end as the kernel knows it, or -1.
     static pid_t PeerPid(int socket);

@@ -19,7 +19,6 @@
 #include <cstdlib>
 #include <memory>
 #include <mutex>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include "channel_server.h"
@@ -31,6 +30,7 @@
 #include "session_proxy.h"
 #include "session_registry.h"
 #include "unique_fd.h"
+#include "user_runtime_directory.h"
 
 namespace OHOS {
 namespace {
@@ -63,16 +63,14 @@ ServedContext& Served()
     return *served;
 }
 
-// A socket file that nobody answers at is what a process that died left behind.
+// A socket file of this user's that nobody answers at is what a process that died left behind.
 bool ClearPath(const std::string& path)
 {
-    struct stat status {};
-    if (lstat(path.c_str(), &status) != 0 && errno == ENOENT) {
-        return true;
-    }
-    if (!S_ISSOCK(status.st_mode)) {
-        IPC_HOST_LOGE("%{public}s exists and is not a socket", path.c_str());
+    if (!UserRuntimeDirectory::MayBind(path)) {
         return false;
+    }
+    if (access(path.c_str(), F_OK) != 0) {
+        return true;
     }
     if (FrameSocket::Connect(path, FrameSocket::Namespace::FILESYSTEM) >= 0) {
         IPC_HOST_LOGE("another process serves at %{public}s", path.c_str());
@@ -133,7 +131,7 @@ void IpcHostTransport::StopServingContextObject()
 
 sptr<IRemoteObject> IpcHostTransport::ConnectToContextObject(const std::string& path)
 {
-    if (!TakePart()) {
+    if (!UserRuntimeDirectory::MayConnect(path) || !TakePart()) {
         return nullptr;
     }
     std::shared_ptr<Session> session = SessionRegistry::OfProcess().SessionAt(path);

@@ -21,7 +21,6 @@
 #ifndef SERVICES_IN_PROCESSES_H
 #define SERVICES_IN_PROCESSES_H
 
-#include <atomic>
 #include <chrono>
 #include <cstdlib>
 #include <memory>
@@ -33,13 +32,17 @@
 #include "iservice_registry.h"
 #include "samgr_host_control.h"
 #include "share_emulator.h"
+#include "user_runtime_directory.h"
 
 namespace OHOS {
 namespace Zelkon {
 
 class ServicesInProcesses {
 public:
-    ServicesInProcesses() : socket_(UniqueSocketPath()), samgr_(Command(socket_), StartOptions()) {}
+    ServicesInProcesses() :
+        socket_(UserRuntimeDirectory::UniqueSocketPath("share-test")), samgr_(Command(socket_), StartOptions())
+    {
+    }
     ~ServicesInProcesses()
     {
         Leave();
@@ -75,11 +78,6 @@ private:
     {
         ShareEmulator::KillShareService();
         ShareEmulator::KillShareManagerService();
-    }
-    static std::string UniqueSocketPath()
-    {
-        static std::atomic<int> serial{0};
-        return "/tmp/share-test-" + std::to_string(getpid()) + "-" + std::to_string(serial++) + ".sock";
     }
     static std::vector<std::string> Command(const std::string& socket)
     {

@@ -24,9 +24,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <map>
+#include <mutex>
 #include <ostream>
 #include <regex>
 #include <sstream>
@@ -38,7 +40,12 @@
 #include <gtest/gtest.h>
 
 #include "child_process.h"
+#include "ipc_host_transport.h"
+#include "ipc_object_stub.h"
 #include "process_table.h"
+#include "samgr_host_code.h"
+#include "share_emulator.h"
+#include "user_runtime_directory.h"
 
 namespace {
 
@@ -102,6 +109,32 @@ void PrintTo(const Case& testCase, std::ostream* out)
     *out << testCase.name;
 }
 
+// Nested far deeper than the stack allows a recursive reader; an argument of at most 128 KiB, as the kernel takes it.
+const std::string DEEP_WORLD = std::string(100000, '[') + std::string(100000, ']');
+const std::string DEEP_CALL = "call PrepareSend deviceInfo='" + std::string(60000, '[') + std::string(60000, ']') + "'";
+
+// A FIFO that nobody writes, named in SHARECTL_TEST_FIFO: opening it to read would wait forever.
+class WriterlessFifo {
+public:
+    WriterlessFifo()
+    {
+        if (mkdtemp(directory_) != nullptr && mkfifo(Path().c_str(), 0600) == 0) {
+            setenv("SHARECTL_TEST_FIFO", Path().c_str(), 1);
+        }
+    }
+    ~WriterlessFifo()
+    {
+        unlink(Path().c_str());
+        rmdir(directory_);
+    }
+
+private:
+    std::string Path() const { return std::string(directory_) + "/fifo"; }
+
+    char directory_[32] = "/tmp/sharectl-fifo-XXXXXX";
+};
+const WriterlessFifo WRITERLESS_FIFO;
+
 constexpr const char* CHANGED_WORLD =
     R"({"users": [{"deviceName": "Zed phone", "deviceId": "dev-9", "avatar": "a", "contactInfo": {"contactName": "Zed"}}]})";
 
@@ -128,20 +161,31 @@ const std::vector<Case> CASES = {
      "PrepareSend -> false (no or refused"},
     {"CallExplainsTheState", "call GetEnableState", "", 0, "GetEnableState -> 1 (the state last given"},
     {"CallOutParameter", "call GetPontalPublishInfo", "", 0, R"(  "publishInfo": "{\"deviceName\")"},
-    {"CallExplainsAnAccountWithoutUid", "--world /dev/stdin call GetAccountInfo", R"({"account": {"callingUid": -1}})",
-     0, "GetAccountInfo -> the record as the library constructs it"},
+    {"CallExplainsAnAccountWithoutUid", "--world - call GetAccountInfo", R"({"account": {"callingUid": -1}})", 0,
+     "GetAccountInfo -> the record as the library constructs it"},
     {"CallAsJson", "--json call IsEnabled", "", 0, R"("result": true)"},
     {"CallUnknownArgument", "call RemovePermanentDeviceById ident=2", "", 2, "has no argument 'ident'"},
     {"CallUnknownField", R"(call PrepareSend deviceInfo='{"colour":1}')", "", 2, "deviceInfo.colour: unknown field"},
     {"CallWrongType", R"(call PrepareSend deviceInfo='{"deviceId":5}')", "", 2,
      "deviceInfo.deviceId: expected a string, got 5"},
+    {"CallNumberOverflow", R"(call PrepareSend deviceInfo='{"deviceType":1e999}')", "", 2,
+     "deviceInfo: invalid JSON: number overflow parsing '1e999'"},
+    {"CallNestedDeep", DEEP_CALL.c_str(), "", 2, "deviceInfo: invalid JSON: nested deeper than 64"},
     {"CallGivenAListener", "call Publish listener=x", "", 2, "a local IPublishListener that sharectl creates"},
     {"SessionAsJson", "--json", "", 0, R"("passed": 18)"},
     {"World", "world", "", 0, R"("nickName": "Robin")"},
-    {"WorldWithAChangedUser", "--world /dev/stdin users", CHANGED_WORLD, 0,
-     "[ ok ] user list: 1 users: Zed phone (Zed)"},
-    {"WorldInvalid", "--world /dev/stdin users", R"({"users": [{"deviceType": "phone"}]})", 2,
+    {"WorldWithAChangedUser", "--world - users", CHANGED_WORLD, 0, "[ ok ] user list: 1 users: Zed phone (Zed)"},
+    {"WorldInvalid", "--world - users", R"({"users": [{"deviceType": "phone"}]})", 2,
      R"(users[0].deviceType: expected an int32, got "phone")"},
+    {"WorldIntegerOutOfRange", "--world - users", R"({"users": [{"deviceType": 2147483648}]})", 2,
+     "users[0].deviceType: out of the range of int32, got 2147483648"},
+    {"WorldNumberOverflow", "--world - users", R"({"account": {"callingUid": 1e999}})", 2,
+     "--world -: invalid JSON: number overflow parsing '1e999'"},
+    {"WorldNestedDeep", "--world - users", DEEP_WORLD.c_str(), 2, "--world -: invalid JSON: nested deeper than 64"},
+    {"WorldListGivenForARecord", "--world - users", R"({"account": [[1], [2]]})", 2,
+     "account: expected an object, got an array"},
+    {"WorldFifoWithoutWriter", R"(--world "$SHARECTL_TEST_FIFO" users)", "", 2, "not a regular file"},
+    {"WorldDevice", "--world /dev/zero users", "", 2, "--world /dev/zero: not a regular file"},
     {"RemoveOutOfRange", "remove-device 4294967297", "", 2, "'4294967297' is not an int32"},
     {"RemoveTrailingLetters", "remove-device 2abc", "", 2, "'2abc' is not an int32"},
     {"RemoveNoNumber", "remove-device abc", "", 2, "'abc' is not an int32"},
@@ -303,7 +347,7 @@ TEST(SharectlProcessesTest, ServeKeepsItsStateForTheInvocationsThatJoinIt)
     EXPECT_EQ(dump.status, 0) << dump.output;
     EXPECT_NE(dump.output.find(R"("deviceName": "Kitchen tablet")"), std::string::npos) << dump.output;
     EXPECT_EQ(dump.output.find(R"("deviceName": "Office laptop")"), std::string::npos) << "device 2 is back";
-    const Outcome world = RunSharectl(join + "--world /dev/stdin users", CHANGED_WORLD);
+    const Outcome world = RunSharectl(join + "--world - users", CHANGED_WORLD);
     EXPECT_EQ(world.status, 2);
     EXPECT_NE(world.output.find("run their own world already"), std::string::npos) << world.output;
 
@@ -315,6 +359,73 @@ TEST(SharectlProcessesTest, ServeKeepsItsStateForTheInvocationsThatJoinIt)
     }
     EXPECT_NE(access(socket.c_str(), F_OK), 0) << "the socket file is left";
     unlink(socket.c_str());
+}
+
+// The system ability manager of another process, lying: its share manager service answers its dump with whatever
+// the test sets.
+class LyingManager : public OHOS::IPCObjectStub {
+public:
+    LyingManager() : IPCObjectStub(u"test.LyingManager"), shareManager_(new DumpAnswer()) {}
+    void SetDumpAnswer(const std::string& answer) { shareManager_->Set(answer); }
+
+    int OnRemoteRequest(uint32_t code, OHOS::MessageParcel& data, OHOS::MessageParcel& reply,
+                        OHOS::MessageOption& option) override
+    {
+        if (code != static_cast<uint32_t>(OHOS::SamgrHostCode::CHECK)) {
+            return IPCObjectStub::OnRemoteRequest(code, data, reply, option);
+        }
+        data.ReadInterfaceToken();
+        const bool found = data.ReadInt32() == OHOS::Zelkon::EMULATED_SHARE_MANAGER_ID;
+        reply.WriteBool(found);
+        if (found) {
+            reply.WriteRemoteObject(shareManager_);
+        }
+        return OHOS::ERR_NONE;
+    }
+
+private:
+    class DumpAnswer : public OHOS::IPCObjectStub {
+    public:
+        DumpAnswer() : IPCObjectStub(u"test.DumpAnswer") {}
+        void Set(const std::string& answer)
+        {
+            std::lock_guard<std::mutex> lock(mutex_);
+            answer_ = answer;
+        }
+        int Dump(int fd, const std::vector<std::u16string>&) override
+        {
+            std::lock_guard<std::mutex> lock(mutex_);
+            return write(fd, answer_.data(), answer_.size()) == static_cast<ssize_t>(answer_.size())
+                       ? OHOS::ERR_NONE
+                       : OHOS::ERR_INVALID_DATA;
+        }
+
+    private:
+        std::mutex mutex_;
+        std::string answer_;
+    };
+
+    const OHOS::sptr<DumpAnswer> shareManager_;
+};
+
+// sharectl joins a manager whose share manager service answers its dump with what is not a service's state.
+TEST(SharectlProcessesTest, ADumpThatIsNotAServicesStateIsAnError)
+{
+    const std::string socket = OHOS::UserRuntimeDirectory::UniqueSocketPath("sharectl-test");
+    const OHOS::sptr<LyingManager> manager = new LyingManager();
+    ASSERT_TRUE(OHOS::IpcHostTransport::ServeContextObject(socket, manager));
+    for (const std::string& answer : {std::string("not JSON"), std::string("[1, 2]"), DEEP_WORLD}) {
+        SCOPED_TRACE(answer.substr(0, 10));
+        manager->SetDumpAnswer(answer);
+
+        const Outcome dump = RunSharectl("--processes --socket " + socket + " dump");
+
+        EXPECT_EQ(dump.status, 1) << dump.output;
+        EXPECT_NE(dump.output.find("the dump of system ability 65570 is not its state"), std::string::npos)
+            << dump.output;
+        EXPECT_NE(dump.output.find("sharectl: dump: a service's state could not be read"), std::string::npos);
+    }
+    OHOS::IpcHostTransport::StopServingContextObject();
 }
 
 std::vector<std::string> FilesIn(const std::string& directory)
@@ -366,8 +477,8 @@ TEST_P(SharectlSignalTest, LeavesNoTemporaryFileAndNoProcess)
 }
 
 // The traced session in processes writes more than a pipe that nobody reads holds: the signal comes while sharectl
-// waits to write, its services running.
-TEST_P(SharectlSignalTest, InASessionInProcessesLeavesNoTemporaryFileAndNoProcess)
+// waits to write, its services running. The directory is also its runtime directory, where its manager's socket is.
+TEST_P(SharectlSignalTest, InASessionInProcessesLeavesNoTemporaryFileNoSocketAndNoProcess)
 {
     char directory[] = "/tmp/sharectl-signal-XXXXXX";
     ASSERT_NE(mkdtemp(directory), nullptr);
@@ -379,6 +490,7 @@ TEST_P(SharectlSignalTest, InASessionInProcessesLeavesNoTemporaryFileAndNoProces
         dup2(out[1], STDOUT_FILENO);
         dup2(out[1], STDERR_FILENO);
         setenv("TMPDIR", directory, 1);
+        setenv("XDG_RUNTIME_DIR", directory, 1);
         execl(SHARECTL_PATH, "sharectl", "--processes", "--trace", static_cast<char*>(nullptr));
         _exit(127);
     }
@@ -400,6 +512,11 @@ TEST_P(SharectlSignalTest, InASessionInProcessesLeavesNoTemporaryFileAndNoProces
         started.insert(started.end(), services.begin(), services.end());
     }
     EXPECT_GE(started.size(), 2u) << "the manager and the share manager service";
+    const std::vector<std::string> files = FilesIn(directory);
+    EXPECT_EQ(std::count_if(files.begin(), files.end(),
+                            [](const std::string& name) { return name.find(".sock") != std::string::npos; }),
+              1)
+        << "no socket in the runtime directory";
 
     ASSERT_EQ(kill(child, GetParam()), 0);
     int status = 0;
@@ -407,7 +524,8 @@ TEST_P(SharectlSignalTest, InASessionInProcessesLeavesNoTemporaryFileAndNoProces
     close(out[0]);
 
     EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == GetParam()) << "status " << status;
-    EXPECT_EQ(FilesIn(directory), std::vector<std::string>());
+    // The manager removes its socket as it ends.
+    EXPECT_TRUE(Eventually([&directory] { return FilesIn(directory).empty(); })) << FilesIn(directory).size();
     for (pid_t process : started) {
         EXPECT_TRUE(Eventually([process] { return Gone(process); })) << "process " << process << " is left";
     }

@@ -1,0 +1,397 @@
+/*
+ * Copyright (c) 2026 The libshare_client Authors.
+ * Licensed under the Apache License, Version 2.0 (the "License");
+ * you may not use this file except in compliance with the License.
+ * You may obtain a copy of the License at
+ *
+ *     http://www.apache.org/licenses/LICENSE-2.0
+ *
+ * Unless required by applicable law or agreed to in writing, software
+ * distributed under the License is distributed on an "AS IS" BASIS,
+ * WITHOUT WARRANTIES OR CONDITIONS OF ANY KIND, either express or implied.
+ * See the License for the specific language governing permissions and
+ * limitations under the License.
+ */
+
+/*
+ * Attacks on the host world, one row each: what the attacker does first (another local user: a child of this
+ * process that drops to an unused uid; or this user's own process that died), what this user then does, and what
+ * must happen: the outcome, the line logged, and nothing of the user's reaching the attacker. The scene stands in
+ * for /tmp: a sticky directory that everyone may write, named by TMPDIR, without XDG_RUNTIME_DIR. After each row
+ * the process's descriptors, threads and children are where they began.
+ */
+#include <dirent.h>
+#include <fcntl.h>
+#include <pwd.h>
+#include <signal.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+#include <ostream>
+#include <regex>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "captured_log.h"
+#include "ipc_host_transport.h"
+#include "ipc_object_stub.h"
+#include "process_table.h"
+#include "user_runtime_directory.h"
+
+namespace OHOS {
+namespace {
+using Zelkon::CapturedLog;
+using Zelkon::ChildrenOf;
+using Zelkon::Eventually;
+using Zelkon::Gone;
+
+constexpr const char* DEFAULT_SOCKET = "share-emulator.sock";
+
+// Paths made before the attacker's child is forked: the child only makes system calls.
+struct Scene {
+    std::string parent;
+    std::string privateDirectory;
+    // The default socket in the private directory.
+    std::string defaultSocket;
+    // A socket in the shared parent.
+    std::string sharedSocket;
+    std::string attackerDirectory;
+};
+
+struct Attack {
+    const char* name;
+    // Acts as another uid: only where the suite runs as root.
+    bool secondUid;
+    // In the child, before this user acts: system calls only. A listening socket, or -1.
+    int (*attacker)(const Scene&);
+    // What this user does; true when the outcome is the one required.
+    bool (*user)(const Scene&);
+    // A line that must be logged (a regular expression), or null where nothing may be refused.
+    const char* logged;
+};
+
+void PrintTo(const Attack& attack, std::ostream* out)
+{
+    *out << attack.name;
+}
+
+int ListenAt(const std::string& path)
+{
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::strncpy(address.sun_path, path.c_str(), sizeof(address.sun_path) - 1);
+    const int fd = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    if (bind(fd, reinterpret_cast<const sockaddr*>(&address), sizeof(address)) != 0 || listen(fd, 1) != 0) {
+        _exit(EXIT_FAILURE);
+    }
+    return fd;
+}
+
+uid_t OwnerOf(const std::string& path)
+{
+    struct stat status {};
+    return lstat(path.c_str(), &status) == 0 ? status.st_uid : static_cast<uid_t>(-1);
+}
+
+mode_t ModeOf(const std::string& path)
+{
+    struct stat status {};
+    return lstat(path.c_str(), &status) == 0 ? (status.st_mode & 07777) : 0;
+}
+
+std::vector<std::string> FilesIn(const std::string& directory)
+{
+    std::vector<std::string> names;
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(directory, error)) {
+        names.push_back(entry.path().filename().string());
+    }
+    return names;
+}
+
+size_t CountIn(const char* directory)
+{
+    return FilesIn(directory).size();
+}
+
+// The uid that nobody has, for the attacker.
+uid_t UnusedUid()
+{
+    uid_t uid = 43210;
+    while (getpwuid(uid) != nullptr) {
+        ++uid;
+    }
+    return uid;
+}
+
+sptr<IRemoteObject> Stub()
+{
+    return new IPCObjectStub(u"test.attack.Own");
+}
+
+// sharectl --processes, killed with SIGKILL in the middle of its session: its traced output fills a pipe that
+// nobody reads, so it waits in write(2) with its services running.
+bool SharectlKilledLeavesNothing(const Scene& scene)
+{
+    int out[2];
+    if (pipe2(out, O_CLOEXEC) != 0 || fcntl(out[1], F_SETPIPE_SZ, 4096) < 0) {
+        return false;
+    }
+    const pid_t sharectl = fork();
+    if (sharectl == 0) {
+        dup2(out[1], STDOUT_FILENO);
+        dup2(out[1], STDERR_FILENO);
+        execl(SHARECTL_PATH, "sharectl", "--processes", "--trace", static_cast<char*>(nullptr));
+        _exit(127);
+    }
+    close(out[1]);
+    const bool blocked = Eventually([sharectl] {
+        std::ifstream syscall("/proc/" + std::to_string(sharectl) + "/syscall");
+        long number = -1;
+        return static_cast<bool>(syscall >> number) && number == SYS_write;
+    });
+    const std::vector<std::string> served = FilesIn(scene.privateDirectory);
+    std::vector<pid_t> started = ChildrenOf(sharectl);
+    for (pid_t serve : ChildrenOf(sharectl)) {
+        const std::vector<pid_t> services = ChildrenOf(serve);
+        started.insert(started.end(), services.begin(), services.end());
+    }
+    kill(sharectl, SIGKILL);
+    waitpid(sharectl, nullptr, 0);
+    close(out[0]);
+    return blocked && served.size() == 1 && started.size() >= 2 &&
+           Eventually([&] { return FilesIn(scene.privateDirectory).empty(); }) && Eventually([&] {
+               for (pid_t process : started) {
+                   if (!Gone(process)) {
+                       return false;
+                   }
+               }
+               return true;
+           });
+}
+
+const std::vector<Attack> ATTACKS = {
+    {"SecondUidSquatsThePrivateDirectory", true,
+     [](const Scene& scene) { return mkdir(scene.privateDirectory.c_str(), 0777) == 0 ? -1 : -2; },
+     [](const Scene& scene) {
+         return UserRuntimeDirectory::Path().empty() && OwnerOf(scene.privateDirectory) != getuid() &&
+                ModeOf(scene.privateDirectory) == 0777;
+     },
+     R"(ohos-host-\d+ belongs to uid \d+, not to this user \(uid \d+\): refused)"},
+    {"SecondUidServesTheDefaultSocketInTheSquattedDirectory", true,
+     [](const Scene& scene) {
+         mkdir(scene.privateDirectory.c_str(), 0777);
+         return ListenAt(scene.defaultSocket);
+     },
+     [](const Scene& scene) {
+         return UserRuntimeDirectory::SocketPath(DEFAULT_SOCKET).empty() &&
+                IpcHostTransport::ConnectToContextObject(scene.defaultSocket) == nullptr;
+     },
+     R"(ohos-host-\d+ belongs to uid \d+, not to this user \(uid \d+\) or root: refused)"},
+    {"SecondUidServesInASharedDirectory", true, [](const Scene& scene) { return ListenAt(scene.sharedSocket); },
+     [](const Scene& scene) {
+         return IpcHostTransport::ConnectToContextObject(scene.sharedSocket) == nullptr &&
+                !IpcHostTransport::ServeContextObject(scene.sharedSocket, Stub()) &&
+                OwnerOf(scene.sharedSocket) != getuid();
+     },
+     R"(the socket .*shared\.sock belongs to uid \d+, not to this user \(uid \d+\) or root: refused)"},
+    {"SecondUidLinksThePrivateDirectoryToItsOwn", true,
+     [](const Scene& scene) {
+         mkdir(scene.attackerDirectory.c_str(), 0777);
+         return symlink(scene.attackerDirectory.c_str(), scene.privateDirectory.c_str()) == 0 ? -1 : -2;
+     },
+     [](const Scene& scene) {
+         return UserRuntimeDirectory::UniqueSocketPath("sharectl").empty() && FilesIn(scene.attackerDirectory).empty();
+     },
+     R"(ohos-host-\d+ is not a directory: refused)"},
+    {"SecondUidOffersItsRuntimeDirectory", true,
+     [](const Scene& scene) { return mkdir(scene.attackerDirectory.c_str(), 0700) == 0 ? -1 : -2; },
+     [](const Scene& scene) {
+         setenv(UserRuntimeDirectory::RUNTIME_ENVIRONMENT, scene.attackerDirectory.c_str(), 1);
+         const std::string path = UserRuntimeDirectory::Path();
+         unsetenv(UserRuntimeDirectory::RUNTIME_ENVIRONMENT);
+         return path == scene.privateDirectory && ModeOf(path) == 0700 && OwnerOf(path) == getuid();
+     },
+     R"(XDG_RUNTIME_DIR is not this user's private directory: using .*ohos-host-\d+)"},
+    {"PreCreatedDirectoryOpenToOthers", false,
+     [](const Scene& scene) { return mkdir(scene.privateDirectory.c_str(), 0755) == 0 ? -1 : -2; },
+     [](const Scene& scene) { return UserRuntimeDirectory::Path().empty() && ModeOf(scene.privateDirectory) == 0755; },
+     R"(others can enter .*ohos-host-\d+ \(mode 0755\): refused)"},
+    {"OwnSocketOpenToOthers", false, [](const Scene& scene) { return ListenAt(scene.sharedSocket); },
+     [](const Scene& scene) { return IpcHostTransport::ConnectToContextObject(scene.sharedSocket) == nullptr; },
+     R"(others can connect to the socket .*shared\.sock \(mode 0777\): refused)"},
+    {"OwnStaleSocketIsReplaced", false,
+     [](const Scene& scene) {
+         mkdir(scene.privateDirectory.c_str(), 0700);
+         close(ListenAt(scene.defaultSocket));
+         return -1;
+     },
+     [](const Scene& scene) {
+         const bool served = UserRuntimeDirectory::SocketPath(DEFAULT_SOCKET) == scene.defaultSocket &&
+                             IpcHostTransport::ServeContextObject(scene.defaultSocket, Stub());
+         const bool privateSocket = ModeOf(scene.defaultSocket) == 0700;
+         IpcHostTransport::StopServingContextObject();
+         return served && privateSocket && access(scene.defaultSocket.c_str(), F_OK) != 0;
+     },
+     nullptr},
+    {"SharectlKilledLeavesNoSocket", false, [](const Scene&) { return -1; }, SharectlKilledLeavesNothing, nullptr},
+};
+
+class AttackTable : public testing::TestWithParam<Attack> {
+protected:
+    static void SetUpTestSuite()
+    {
+        // The transport's own listener starts with this process's first serve and stays for its life.
+        const std::string warmUp = UserRuntimeDirectory::UniqueSocketPath("attack-table");
+        ASSERT_TRUE(IpcHostTransport::ServeContextObject(warmUp, Stub()));
+        IpcHostTransport::StopServingContextObject();
+        // The thread that served it ends just after serving stopped.
+        size_t threads = CountIn("/proc/self/task");
+        EXPECT_TRUE(Eventually([&threads] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+            const size_t before = threads;
+            threads = CountIn("/proc/self/task");
+            return threads == before;
+        }));
+    }
+
+    void SetUp() override
+    {
+        char parent[] = "/tmp/attack-table-XXXXXX";
+        ASSERT_NE(mkdtemp(parent), nullptr);
+        ASSERT_EQ(chmod(parent, 01777), 0);
+        const std::string root = parent;
+        const std::string privateDirectory = root + "/ohos-host-" + std::to_string(getuid());
+        scene_ = {root, privateDirectory, privateDirectory + "/" + DEFAULT_SOCKET, root + "/shared.sock",
+                  root + "/attacker"};
+        for (const char* name : {"TMPDIR", UserRuntimeDirectory::RUNTIME_ENVIRONMENT}) {
+            const char* value = std::getenv(name);
+            savedEnvironment_.emplace_back(name, value != nullptr ? std::optional<std::string>(value) : std::nullopt);
+        }
+        setenv("TMPDIR", parent, 1);
+        unsetenv(UserRuntimeDirectory::RUNTIME_ENVIRONMENT);
+        descriptors_ = CountIn("/proc/self/fd");
+        threads_ = CountIn("/proc/self/task");
+        children_ = ChildrenOf(getpid()).size();
+    }
+
+    void TearDown() override
+    {
+        for (const auto& [name, value] : savedEnvironment_) {
+            value.has_value() ? setenv(name.c_str(), value->c_str(), 1) : unsetenv(name.c_str());
+        }
+        std::filesystem::remove_all(scene_.parent);
+        EXPECT_EQ(CountIn("/proc/self/fd"), descriptors_);
+        EXPECT_TRUE(Eventually([this] { return CountIn("/proc/self/task") == threads_; })) << "threads are left";
+        EXPECT_TRUE(Eventually([this] { return ChildrenOf(getpid()).size() == children_; })) << "children are left";
+    }
+
+    // The attacker's child acts, then waits until this user is done; its exit status says whether anything of the
+    // user's reached its listening socket (1), or it could not act (2). False if it could not act.
+    bool LetTheAttackerAct(const Attack& row, uid_t uid)
+    {
+        int ready[2];
+        int done[2];
+        if (pipe2(ready, O_CLOEXEC) != 0) {
+            return false;
+        }
+        if (pipe2(done, O_CLOEXEC) != 0) {
+            close(ready[0]);
+            close(ready[1]);
+            return false;
+        }
+        attacker_ = fork();
+        if (attacker_ == 0) {
+            close(ready[0]);
+            close(done[1]);
+            umask(0);
+            if (row.secondUid && (syscall(SYS_setgroups, 0, nullptr) != 0 || syscall(SYS_setgid, uid) != 0 ||
+                                  syscall(SYS_setuid, uid) != 0)) {
+                _exit(2);
+            }
+            const int listener = row.attacker(scene_);
+            char byte = 0;
+            if (listener == -2 || write(ready[1], &byte, 1) != 1) {
+                _exit(2);
+            }
+            while (read(done[0], &byte, 1) > 0) {
+            }
+            _exit(listener >= 0 && accept4(listener, nullptr, nullptr, SOCK_NONBLOCK) >= 0 ? 1 : 0);
+        }
+        close(ready[1]);
+        close(done[0]);
+        char byte = 0;
+        const bool acted = read(ready[0], &byte, 1) == 1;
+        close(ready[0]);
+        doneFd_ = done[1];
+        return acted;
+    }
+
+    // 0 when nothing reached the attacker.
+    int AttackerStatus()
+    {
+        if (attacker_ <= 0) {
+            return -1;
+        }
+        close(doneFd_);
+        int status = -1;
+        waitpid(attacker_, &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+    Scene scene_;
+
+private:
+    pid_t attacker_ = -1;
+    int doneFd_ = -1;
+    std::vector<std::pair<std::string, std::optional<std::string>>> savedEnvironment_;
+    size_t descriptors_ = 0;
+    size_t threads_ = 0;
+    size_t children_ = 0;
+};
+
+TEST_P(AttackTable, IsRefusedAndLoggedAndNothingIsLost)
+{
+    const Attack& row = GetParam();
+    if (row.secondUid && getuid() != 0) {
+        GTEST_SKIP() << "acting as a second uid needs root, and this suite does not run as root";
+    }
+    CapturedLog log;
+    const bool acted = LetTheAttackerAct(row, UnusedUid());
+    EXPECT_TRUE(acted && row.user(scene_)) << (acted ? "the outcome is not the one required" : "no attack");
+
+    EXPECT_EQ(AttackerStatus(), 0) << "the user's process reached the attacker";
+    const std::vector<Zelkon::CapturedLine> lines = log.Lines();
+    const auto matches = [&lines](const std::regex& pattern) {
+        for (const Zelkon::CapturedLine& line : lines) {
+            if (std::regex_search(line.text, pattern)) {
+                return true;
+            }
+        }
+        return false;
+    };
+    if (row.logged != nullptr) {
+        EXPECT_TRUE(matches(std::regex(row.logged))) << "not logged: " << row.logged;
+    } else {
+        EXPECT_FALSE(matches(std::regex("refused"))) << "a refusal was logged";
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Attacks, AttackTable, testing::ValuesIn(ATTACKS),
+                         [](const testing::TestParamInfo<Attack>& info) { return info.param.name; });
+
+} // namespace
+} // namespace OHOS
