@@ -66,8 +66,14 @@ int main(int argc, char* argv[])
         command->add_option("--fault", faults, "A fault to arm (repeatable)");
     }
     options.serviceExecutable = OHOS::ChildProcess::OwnExecutable();
+    // Started ahead by the manager, the share service's process learns its command line when it is loaded.
+    std::vector<std::string> arguments = OHOS::ChildProcess::Arguments(argc, argv);
+    std::vector<char*> argumentPointers;
+    for (std::string& argument : arguments) {
+        argumentPointers.push_back(argument.data());
+    }
     try {
-        app.parse(argc, argv);
+        app.parse(static_cast<int>(argumentPointers.size()), argumentPointers.data());
         options.faults = ParseFaults(faults);
     } catch (const CLI::ParseError& error) {
         return app.exit(error);

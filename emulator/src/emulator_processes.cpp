@@ -113,6 +113,7 @@ bool EmulatorProcesses::Serve(const Options& options)
         }
         return line;
     });
+    SamgrHostControl::StartAhead(EMULATED_SHARE_SERVICE_ID, executable);
     SamgrHostControl::RegisterProcess(EMULATED_SHARE_MANAGER_ID, [executable, worldFile] {
         return ServiceCommandLine(executable, worldFile, EMULATED_SHARE_MANAGER_ID);
     });

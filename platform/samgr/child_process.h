@@ -14,9 +14,13 @@
  */
 
 /*
- * Host: a process this one starts, bound to its life. The child's standard input is a pipe that only this object
+ * Host: a process this one starts, bound to its life. The child's standard input is a socket that only this object
  * writes: a child ends when it reads the end of it, so it cannot outlive its starter, whatever ends the starter
  * (SIGKILL included). A child says it is ready by writing one line on its standard output.
+ *
+ * A child may also be started held: the executable is loaded and waits, and Release later gives it its command
+ * line through the same pipe. Starting a process is slow on some hosts (a 32-bit build under an emulator takes
+ * longer than a client waits for a load), and a held process turns a start into a message.
  */
 #ifndef OHOS_SAMGR_CHILD_PROCESS_H
 #define OHOS_SAMGR_CHILD_PROCESS_H
@@ -43,6 +47,8 @@ public:
     // Starts argv[0] (a path) with argv. Started() is false, and the reason logged, if it cannot be started or
     // does not say it is ready in time (it is killed then).
     ChildProcess(const std::vector<std::string>& argv, const Options& options);
+    // Started held: the executable waits in Arguments() until Release.
+    ChildProcess(const std::string& executable, const Options& options);
     // Stopped.
     ~ChildProcess();
     ChildProcess(const ChildProcess&) = delete;
@@ -50,6 +56,8 @@ public:
 
     bool Started() const { return pid_ > 0; }
     pid_t Pid() const { return pid_; }
+    // Gives a held child its command line (argv[0] included); false if it cannot be told.
+    bool Release(const std::vector<std::string>& argv);
     // SIGKILL, then reaped; nothing if it is gone already.
     void Kill();
     // SIGTERM, so that it can stop what it started; SIGKILL if it has not ended within the grace time. Reaped.
@@ -59,12 +67,16 @@ public:
 
     // The path of this process's executable.
     static std::string OwnExecutable();
+    // What a child's main calls first: its command line, as given, or from Release when it was started held. A held
+    // child whose starter ends before releasing it exits.
+    static std::vector<std::string> Arguments(int argc, char* argv[]);
     // What a child calls: blocks until its starter lets it go (its standard input ends), then returns.
     static void WaitForStarterGone();
     // What a child calls once it serves: the ready line.
     static bool SayReady();
 
 private:
+    void Spawn(const std::vector<std::string>& argv, const Options& options);
     void Reap(int options);
 
     pid_t pid_ = -1;

@@ -69,6 +69,11 @@ public:
     // killed with the manager's, and the ability forgotten when its process ends. Like RegisterLoader, this gives the
     // id its profile.
     static void RegisterProcess(int32_t systemAbilityId, CommandLine commandLine);
+    // From now on a process of the executable is kept started and held for the registered ability's next load,
+    // which releases it with the command line: a start that takes longer than a client waits for a load (a slow
+    // host, an emulated CPU) is then only a message. The executable reads its command line with
+    // ChildProcess::Arguments; a command line of another executable starts a process as before.
+    static void StartAhead(int32_t systemAbilityId, const std::string& executable);
     // Whether this process uses the manager of another process.
     static bool IsAcrossProcesses();
 

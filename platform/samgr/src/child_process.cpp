@@ -18,10 +18,12 @@
 #include <cerrno>
 #include <climits>
 #include <csignal>
+#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -35,6 +37,11 @@ namespace {
 constexpr char READY_LINE[] = "ready\n";
 constexpr size_t READY_LENGTH = sizeof(READY_LINE) - 1;
 constexpr int FIRST_INHERITED_FD = 3;
+// The one argument of a held child; its command line follows on standard input as NUL-terminated arguments, then an
+// empty line's NUL.
+constexpr char HELD_ARGUMENT[] = "--held-by-starter";
+// More than any command line of an ability; a held child reads no further.
+constexpr size_t MAX_HELD_COMMAND_LINE = 64 * 1024;
 
 std::vector<std::string> EnvironmentWith(const std::map<std::string, std::string>& additions)
 {
@@ -86,10 +93,26 @@ bool ReadReadyLine(int fd, std::chrono::milliseconds timeout)
 
 ChildProcess::ChildProcess(const std::vector<std::string>& argv, const Options& options)
 {
+    Spawn(argv, options);
+}
+
+ChildProcess::ChildProcess(const std::string& executable, const Options& options)
+{
+    // Held only once it is loaded: a start released earlier would take as long as one not started ahead.
+    constexpr auto LOADED_TIMEOUT = std::chrono::seconds(10);
+    Options held = options;
+    held.readyTimeout = LOADED_TIMEOUT;
+    Spawn({executable, HELD_ARGUMENT}, held);
+}
+
+void ChildProcess::Spawn(const std::vector<std::string>& argv, const Options& options)
+{
     int lifeline[2];
     int ready[2] = {-1, -1};
     const bool waitsForReady = options.readyTimeout.count() > 0;
-    if (argv.empty() || pipe2(lifeline, O_CLOEXEC) != 0 || (waitsForReady && pipe2(ready, O_CLOEXEC) != 0)) {
+    // A socket rather than a pipe, so that telling a child that has just ended raises no SIGPIPE here.
+    if (argv.empty() || socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, lifeline) != 0 ||
+        (waitsForReady && pipe2(ready, O_CLOEXEC) != 0)) {
         SAMGR_HOST_LOGE("cannot start a child process, errno %{public}d", errno);
         return;
     }
@@ -129,6 +152,33 @@ ChildProcess::~ChildProcess()
     if (lifeline_ >= 0) {
         close(lifeline_);
     }
+}
+
+bool ChildProcess::Release(const std::vector<std::string>& argv)
+{
+    std::string message;
+    for (const std::string& argument : argv) {
+        if (argument.empty() || argument.find('\0') != std::string::npos) {
+            return false;
+        }
+        message += argument;
+        message.push_back('\0');
+    }
+    message.push_back('\0');
+    if (Ended() || message.size() > MAX_HELD_COMMAND_LINE) {
+        return false;
+    }
+    for (size_t written = 0; written < message.size();) {
+        const ssize_t count = send(lifeline_, message.data() + written, message.size() - written, MSG_NOSIGNAL);
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count <= 0) {
+            return false;
+        }
+        written += static_cast<size_t>(count);
+    }
+    return true;
 }
 
 void ChildProcess::Kill()
@@ -181,6 +231,40 @@ std::string ChildProcess::OwnExecutable()
     const ssize_t length = readlink("/proc/self/exe", path.data(), path.size());
     path.resize(length > 0 ? static_cast<size_t>(length) : 0);
     return path;
+}
+
+std::vector<std::string> ChildProcess::Arguments(int argc, char* argv[])
+{
+    if (argc != 2 || std::strcmp(argv[1], HELD_ARGUMENT) != 0) {
+        return std::vector<std::string>(argv, argv + argc);
+    }
+    // Loaded: the starter may hold it now. Its standard output was only for saying so.
+    SayReady();
+    const int nothing = open("/dev/null", O_WRONLY | O_CLOEXEC);
+    dup2(nothing, STDOUT_FILENO);
+    close(nothing);
+    std::vector<std::string> arguments(1);
+    // Byte by byte: what follows the command line on standard input is the lifeline's, not ours.
+    for (size_t total = 0; total < MAX_HELD_COMMAND_LINE; ++total) {
+        char byte = 0;
+        const ssize_t count = read(STDIN_FILENO, &byte, 1);
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count <= 0) {
+            break;
+        }
+        if (byte != '\0') {
+            arguments.back().push_back(byte);
+        } else if (arguments.back().empty()) {
+            arguments.pop_back();
+            return arguments;
+        } else {
+            arguments.emplace_back();
+        }
+    }
+    // The starter ended, or said nothing that makes sense: the process is not needed.
+    std::_Exit(EXIT_SUCCESS);
 }
 
 void ChildProcess::WaitForStarterGone()

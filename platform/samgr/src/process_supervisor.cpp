@@ -36,7 +36,7 @@ sptr<IRemoteObject> ProcessSupervisor::StartProcess(int32_t systemAbilityId,
     std::vector<std::unique_ptr<ChildProcess>> dropped;
     ChildProcess::Options options;
     options.environment[SamgrHostControl::SOCKET_ENVIRONMENT] = socketPath;
-    auto child = std::make_unique<ChildProcess>(commandLine, options);
+    std::unique_ptr<ChildProcess> child = Launch(systemAbilityId, commandLine, options);
     if (!child->Started()) {
         return nullptr;
     }
@@ -51,10 +51,70 @@ sptr<IRemoteObject> ProcessSupervisor::StartProcess(int32_t systemAbilityId,
     while ((ability = registry_.WaitForAddedBy(systemAbilityId, pid, END_CHECK_INTERVAL)) == nullptr) {
         if (!StillStarting(systemAbilityId, pid, std::chrono::steady_clock::now() >= deadline, dropped)) {
             SAMGR_HOST_LOGE("process %{public}d did not add system ability %{public}d", pid, systemAbilityId);
-            return nullptr;
+            break;
         }
     }
+    // Beside the load's answer, not before it: the next process takes as long to start as this one did.
+    HoldNextLater(systemAbilityId, options);
     return ability;
+}
+
+void ProcessSupervisor::StartAhead(int32_t systemAbilityId, const std::string& executable,
+                                   const std::string& socketPath)
+{
+    ChildProcess::Options options;
+    options.environment[SamgrHostControl::SOCKET_ENVIRONMENT] = socketPath;
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        ahead_[systemAbilityId] = Ahead{executable, nullptr};
+    }
+    HoldNext(systemAbilityId, options);
+}
+
+std::unique_ptr<ChildProcess> ProcessSupervisor::Launch(int32_t systemAbilityId,
+                                                        const std::vector<std::string>& commandLine,
+                                                        const ChildProcess::Options& options)
+{
+    std::unique_ptr<ChildProcess> held;
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        auto ahead = ahead_.find(systemAbilityId);
+        if (ahead != ahead_.end() && !commandLine.empty() && commandLine[0] == ahead->second.executable) {
+            held = std::move(ahead->second.held);
+        }
+    }
+    if (held != nullptr && held->Release(commandLine)) {
+        return held;
+    }
+    return std::make_unique<ChildProcess>(commandLine, options);
+}
+
+void ProcessSupervisor::HoldNextLater(int32_t systemAbilityId, const ChildProcess::Options& options)
+{
+    std::lock_guard<std::mutex> lock(holderMutex_);
+    if (holder_.joinable()) {
+        holder_.join();
+    }
+    holder_ = std::thread([this, systemAbilityId, options] { HoldNext(systemAbilityId, options); });
+}
+
+void ProcessSupervisor::HoldNext(int32_t systemAbilityId, const ChildProcess::Options& options)
+{
+    std::string executable;
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        auto ahead = ahead_.find(systemAbilityId);
+        if (ahead == ahead_.end() || (ahead->second.held != nullptr && !ahead->second.held->Ended())) {
+            return;
+        }
+        executable = ahead->second.executable;
+    }
+    auto held = std::make_unique<ChildProcess>(executable, options);
+    std::lock_guard<std::mutex> lock(mutex_);
+    auto ahead = ahead_.find(systemAbilityId);
+    if (held->Started() && ahead != ahead_.end() && ahead->second.held == nullptr) {
+        ahead->second.held = std::move(held);
+    }
 }
 
 bool ProcessSupervisor::StillStarting(int32_t systemAbilityId, pid_t pid, bool givenUp,
@@ -103,11 +163,24 @@ void ProcessSupervisor::DropEnded(int32_t systemAbilityId)
     }
 }
 
-std::map<int32_t, std::unique_ptr<ChildProcess>> ProcessSupervisor::TakeAll()
+std::vector<std::unique_ptr<ChildProcess>> ProcessSupervisor::TakeAll()
 {
-    std::map<int32_t, std::unique_ptr<ChildProcess>> processes;
+    {
+        std::lock_guard<std::mutex> lock(holderMutex_);
+        if (holder_.joinable()) {
+            holder_.join();
+        }
+    }
+    std::vector<std::unique_ptr<ChildProcess>> processes;
     std::lock_guard<std::mutex> lock(mutex_);
-    processes.swap(processes_);
+    for (auto& [id, process] : processes_) {
+        processes.push_back(std::move(process));
+    }
+    for (auto& [id, ahead] : ahead_) {
+        processes.push_back(std::move(ahead.held));
+    }
+    processes_.clear();
+    ahead_.clear();
     return processes;
 }
 

@@ -15,7 +15,8 @@
 
 /*
  * Host: the processes that the system ability manager starts for its abilities when it serves other processes.
- * Each is bound to the manager's life; one that ends is forgotten with its ability.
+ * Each is bound to the manager's life; one that ends is forgotten with its ability. For an ability whose executable
+ * was named ahead, one process of it is kept started and held, and a load releases it with its command line.
  */
 #ifndef OHOS_SAMGR_PROCESS_SUPERVISOR_H
 #define OHOS_SAMGR_PROCESS_SUPERVISOR_H
@@ -26,6 +27,7 @@
 #include <mutex>
 #include <string>
 #include <sys/types.h>
+#include <thread>
 #include <vector>
 
 #include "ability_registry.h"
@@ -41,14 +43,28 @@ public:
     // ability: null (logged) if it cannot start, ends first, or has not added it within 10 s.
     sptr<IRemoteObject> StartProcess(int32_t systemAbilityId, const std::vector<std::string>& commandLine,
                                      const std::string& socketPath);
+    // Keeps a process of the executable held for each next start of the ability, from now on.
+    void StartAhead(int32_t systemAbilityId, const std::string& executable, const std::string& socketPath);
     // Kills process pid, which stands behind the ability, and returns once its end is seen here.
     pid_t Kill(int32_t systemAbilityId, pid_t pid);
     // Forgets the ability's process if it has ended.
     void DropEnded(int32_t systemAbilityId);
-    // Every process, no longer supervised: they are stopped as they are destroyed.
-    std::map<int32_t, std::unique_ptr<ChildProcess>> TakeAll();
+    // Every process, held ones included, no longer supervised: they are stopped as they are destroyed.
+    std::vector<std::unique_ptr<ChildProcess>> TakeAll();
 
 private:
+    struct Ahead {
+        std::string executable;
+        std::unique_ptr<ChildProcess> held;
+    };
+
+    // The held process released with the command line, or a process started with it.
+    std::unique_ptr<ChildProcess> Launch(int32_t systemAbilityId, const std::vector<std::string>& commandLine,
+                                         const ChildProcess::Options& options);
+    // Starts the next held process of the ability, if it has an executable named ahead and none is held.
+    void HoldNext(int32_t systemAbilityId, const ChildProcess::Options& options);
+    // HoldNext on a thread of its own; the previous one is joined first.
+    void HoldNextLater(int32_t systemAbilityId, const ChildProcess::Options& options);
     // Whether pid is still the ability's process and starting: false once it is replaced, has ended or is given up
     // (then it is taken out into `dropped`).
     bool StillStarting(int32_t systemAbilityId, pid_t pid, bool givenUp,
@@ -57,6 +73,9 @@ private:
     AbilityRegistry& registry_;
     std::mutex mutex_;
     std::map<int32_t, std::unique_ptr<ChildProcess>> processes_;
+    std::map<int32_t, Ahead> ahead_;
+    std::mutex holderMutex_;
+    std::thread holder_;
 };
 
 } // namespace OHOS

@@ -41,6 +41,11 @@ void SamgrHostControl::RegisterProcess(int32_t systemAbilityId, CommandLine comm
     SystemAbilityManagerHost::Instance().RegisterProcess(systemAbilityId, std::move(commandLine));
 }
 
+void SamgrHostControl::StartAhead(int32_t systemAbilityId, const std::string& executable)
+{
+    SystemAbilityManagerHost::Instance().StartAhead(systemAbilityId, executable);
+}
+
 bool SamgrHostControl::IsAcrossProcesses()
 {
     return HostSamgrConnection::IsAcrossProcesses();

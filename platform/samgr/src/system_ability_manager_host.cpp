@@ -150,6 +150,11 @@ void SystemAbilityManagerHost::RegisterProcess(int32_t systemAbilityId, SamgrHos
     });
 }
 
+void SystemAbilityManagerHost::StartAhead(int32_t systemAbilityId, const std::string& executable)
+{
+    processes_.StartAhead(systemAbilityId, executable, server_->SocketPath());
+}
+
 void SystemAbilityManagerHost::RegisterLoader(int32_t systemAbilityId, SamgrHostControl::Loader loader)
 {
     loader_.RegisterLoader(systemAbilityId, std::move(loader));
@@ -204,7 +209,7 @@ void SystemAbilityManagerHost::Reset()
     // Both taken out before a process is stopped, so that no death notice finds its ability registered; the
     // processes are stopped (destroyed) before their abilities are released.
     std::map<int32_t, sptr<IRemoteObject>> abilities = registry_.TakeAll();
-    std::map<int32_t, std::unique_ptr<ChildProcess>> processes = processes_.TakeAll();
+    std::vector<std::unique_ptr<ChildProcess>> processes = processes_.TakeAll();
     loader_.Reset();
     faults_.Reset();
     counters_.Reset();

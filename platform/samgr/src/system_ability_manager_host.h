@@ -64,6 +64,7 @@ public:
     bool ServeAcrossProcesses(const std::string& socketPath);
     bool IsServing();
     void RegisterProcess(int32_t systemAbilityId, SamgrHostControl::CommandLine commandLine);
+    void StartAhead(int32_t systemAbilityId, const std::string& executable);
     void RegisterLoader(int32_t systemAbilityId, SamgrHostControl::Loader loader);
     void ScriptLoads(const LoadScript& script, int count);
     void SetUnavailable(bool unavailable);
