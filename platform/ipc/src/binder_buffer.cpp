@@ -51,8 +51,9 @@ BinderBuffer::Space BinderBuffer::Take(size_t space)
     {
         std::lock_guard<std::mutex> lock(mutex_);
         if (space > SIZE - used_) {
-            IPC_HOST_LOGE("a transaction of %{public}zu bytes does not fit the %{public}zu bytes left of a binder buffer",
-                          space, SIZE - used_);
+            IPC_HOST_LOGE(
+                "a transaction of %{public}zu bytes does not fit the %{public}zu bytes left of a binder buffer", space,
+                SIZE - used_);
             return nullptr;
         }
         used_ += space;

@@ -38,11 +38,10 @@ int Channel::Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds
     }
     // A peer that stops reading holds a send, and a peer that does not answer the read of its reply, no longer than
     // the caller waits: as long as it takes without a deadline (a zero timeout is none), at least a second with one.
-    const auto waitTime =
-        deadline.has_value()
-            ? std::max(std::chrono::ceil<std::chrono::seconds>(*deadline - FrameSocket::Clock::now()),
-                       std::chrono::seconds(1))
-            : std::chrono::seconds(0);
+    const auto waitTime = deadline.has_value()
+                              ? std::max(std::chrono::ceil<std::chrono::seconds>(*deadline - FrameSocket::Clock::now()),
+                                         std::chrono::seconds(1))
+                              : std::chrono::seconds(0);
     if (waitTime != timeout_) {
         FrameSocket::SetTimeouts(socket, waitTime);
         timeout_ = waitTime;

@@ -149,7 +149,8 @@ bool AnswerTransaction(const std::shared_ptr<Session>& session, int socket, IpcF
     // A one-way request is taken once its target and what it carries are held here: its sender learns so before it
     // may give back the references it held for it, as the driver holds them for a one-way transaction.
     const bool oneWay = (request.flags & MessageOption::TF_ASYNC) != 0;
-    if (oneWay && !FrameSocket::Send(socket, Taken(space != nullptr ? static_cast<int>(ERR_NONE) : BR_FAILED_REPLY), {})) {
+    if (oneWay &&
+        !FrameSocket::Send(socket, Taken(space != nullptr ? static_cast<int>(ERR_NONE) : BR_FAILED_REPLY), {})) {
         return false;
     }
     int result = BR_FAILED_REPLY;

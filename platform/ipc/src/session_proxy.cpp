@@ -202,7 +202,8 @@ std::optional<std::u16string> SessionProxy::Acquire(const std::shared_ptr<Sessio
     acquire.kind = IpcFrame::Kind::ACQUIRE;
     acquire.handle = handle;
     IpcFrame answer;
-    if (channel->Call(acquire.Encode(nullptr, 0, 0), {}, FrameSocket::Clock::now() + ACQUIRE_WAIT, answer) != ERR_NONE ||
+    if (channel->Call(acquire.Encode(nullptr, 0, 0), {}, FrameSocket::Clock::now() + ACQUIRE_WAIT, answer) !=
+            ERR_NONE ||
         answer.status != ERR_NONE || answer.DataSize() % sizeof(char16_t) != 0) {
         return std::nullopt;
     }

@@ -112,10 +112,8 @@ int32_t AskInt(const sptr<IRemoteObject>& service, PeerCode code, int32_t argume
 // A call of its own thread that sleeps in the service for a while, once it is under way.
 std::future<int> SleepingCall(const sptr<IRemoteObject>& service, int32_t milliseconds, size_t padding = 0)
 {
-    std::future<int> call =
-        std::async(std::launch::async, [service, milliseconds, padding] {
-            return Call(service, SLEEP, milliseconds, padding);
-        });
+    std::future<int> call = std::async(
+        std::launch::async, [service, milliseconds, padding] { return Call(service, SLEEP, milliseconds, padding); });
     EXPECT_EQ(AskInt(service, SLEEPERS, 5000), 1);
     return call;
 }

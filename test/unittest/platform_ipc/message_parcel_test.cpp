@@ -17,9 +17,9 @@
 
 #include <cstring>
 #include <fcntl.h>
-#include <sys/mman.h>
 #include <functional>
 #include <string>
+#include <sys/mman.h>
 #include <unistd.h>
 #include <vector>
 
