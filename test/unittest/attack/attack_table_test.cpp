@@ -193,18 +193,20 @@ bool SharectlKilledLeavesNothing(const Scene& scene)
            });
 }
 
-// A raw data block as a hostile sender makes it: its memfd, the text's size and the seals it carries.
-bool ReadsHostileBlock(uint32_t size, off_t length, int seals)
+// A raw data block as a hostile sender makes it: its memfd, the text's size and the seals it carries. 1 when it is
+// read, 0 when it is refused, -1 if it could not be made.
+int ReadsHostileBlock(uint32_t size, off_t length, int seals)
 {
     const int fd = memfd_create("hostile", MFD_CLOEXEC | MFD_ALLOW_SEALING);
     const std::string text(size - 1, 'x');
     MessageParcel parcel;
-    const bool made = ftruncate(fd, length) == 0 && pwrite(fd, text.c_str(), text.size(), 0) >= 0 &&
+    const size_t written = std::min(text.size(), static_cast<size_t>(length));
+    const bool made = ftruncate(fd, length) == 0 && pwrite(fd, text.c_str(), written, 0) >= 0 &&
                       fcntl(fd, F_ADD_SEALS, seals) == 0 && parcel.WriteUint32(size) &&
                       parcel.WriteInt32(static_cast<int32_t>(size)) && parcel.WriteFileDescriptor(fd);
     close(fd);
     std::string out;
-    return !made || Zelkon::ParcelUtil::ReadBigString(parcel, out, UINT32_MAX, 1);
+    return made ? static_cast<int>(Zelkon::ParcelUtil::ReadBigString(parcel, out, UINT32_MAX, 1)) : -1;
 }
 
 // The block a sender wrote cannot be shrunk nor rewritten by anyone who holds it, and reads as it was written.
@@ -350,9 +352,10 @@ const std::vector<Attack> ATTACKS = {
     {"HostileRawDataBlocksAreRefused", false, [](const Scene&) { return -1; },
      [](const Scene&) {
          constexpr int ALL = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
-         return ReadsHostileBlock(40000, 40000, ALL) && !ReadsHostileBlock(40000, 40000, 0) &&
-                !ReadsHostileBlock(40000, 40000, F_SEAL_SHRINK) && !ReadsHostileBlock(40000, 40000, F_SEAL_WRITE) &&
-                !ReadsHostileBlock(40000, 16, ALL) && SentBlockStaysAsSent();
+         return ReadsHostileBlock(40000, 40000, ALL) == 1 && ReadsHostileBlock(40000, 40000, 0) == 0 &&
+                ReadsHostileBlock(40000, 40000, F_SEAL_SHRINK) == 0 &&
+                ReadsHostileBlock(40000, 40000, F_SEAL_WRITE) == 0 && ReadsHostileBlock(40000, 16, ALL) == 0 &&
+                SentBlockStaysAsSent();
      },
      R"(refused a shared memory block that can change \(seals \d+\))"},
     {"StrangerUsesHostControls", false, [](const Scene&) { return -1; },
