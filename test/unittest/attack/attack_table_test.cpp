@@ -404,7 +404,12 @@ const std::vector<Attack> ATTACKS = {
          const bool refused = LoadAbility() == nullptr;
          kill(service, SIGKILL);
          ability = nullptr;
-         return manager.Serving() && service > 0 && refused && Eventually([service] {
+         // Seen ended by a lookup, before or after its death notice.
+         const bool forgotten = Eventually([] {
+             return SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager()->CheckSystemAbility(
+                        ABILITY_ID) == nullptr;
+         });
+         return manager.Serving() && service > 0 && refused && forgotten && Eventually([service] {
                     const std::vector<pid_t> children = ChildrenOf(getpid());
                     return std::find(children.begin(), children.end(), service) == children.end();
                 });
