@@ -25,6 +25,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <sys/types.h>
 #include <vector>
 
 #include "parcel.h"
@@ -62,6 +63,10 @@ public:
     size_t GetRawDataSize() const;
     size_t GetRawDataCapacity() const;
 
+    // Host: the process that wrote the parcel, as the platform tells a stub its calling pid: for a parcel read from
+    // another process's frame, the pid the kernel confirmed when their session began; else this process's own.
+    pid_t GetSenderPid() const;
+
     void WriteNoException();
     int32_t ReadException();
 
@@ -71,6 +76,7 @@ public:
 private:
     friend class BinderBuffer;
     friend class ParcelRecords;
+    friend class ParcelWire;
 
     enum class CarriedKind { OBJECT, FD };
     struct Carried {
@@ -96,6 +102,8 @@ private:
     size_t rawDataSize_ = 0;
     // Host: the space a received parcel takes in its receiver's binder buffer, given back when the parcel goes.
     std::shared_ptr<const size_t> bufferSpace_;
+    // Host: set for a parcel read from another process's frame.
+    pid_t senderPid_ = 0;
 };
 
 } // namespace OHOS

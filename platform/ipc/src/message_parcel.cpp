@@ -19,6 +19,7 @@
 #include <cstring>
 #include <utility>
 
+#include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -33,6 +34,10 @@ namespace OHOS {
 namespace {
 constexpr int32_t STRICT_MODE_POLICY = 0x100;
 constexpr int32_t WORK_SOURCE = 0;
+// A block that can neither change size nor be written again: what its receiver maps stays as it was checked.
+constexpr int SENT_BLOCK_SEALS = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE | F_SEAL_SEAL;
+// What a received block must carry at least: shrunk, it would fault its reader; rewritten, it would change under it.
+constexpr int REQUIRED_BLOCK_SEALS = F_SEAL_SHRINK | F_SEAL_WRITE;
 
 bool WriteWhole(int fd, const void* data, size_t size)
 {
@@ -233,7 +238,7 @@ bool MessageParcel::WriteRawData(const void* data, size_t size)
 
 bool MessageParcel::WriteSharedMemoryBlock(const void* data, size_t size)
 {
-    const int fd = memfd_create("RawData", MFD_CLOEXEC);
+    const int fd = memfd_create("RawData", MFD_CLOEXEC | MFD_ALLOW_SEALING);
     if (fd < 0) {
         IPC_HOST_LOGE("memfd_create failed, errno %{public}d", errno);
         return false;
@@ -247,6 +252,11 @@ bool MessageParcel::WriteSharedMemoryBlock(const void* data, size_t size)
     // on top of the one copy.
     if (!WriteWhole(fd, data, size)) {
         IPC_HOST_LOGE("writing %{public}zu bytes of raw data failed, errno %{public}d", size, errno);
+        close(fd);
+        return false;
+    }
+    if (fcntl(fd, F_ADD_SEALS, SENT_BLOCK_SEALS) != 0) {
+        IPC_HOST_LOGE("sealing %{public}zu bytes of raw data failed, errno %{public}d", size, errno);
         close(fd);
         return false;
     }
@@ -282,6 +292,12 @@ const void* MessageParcel::MapSharedMemoryBlock(size_t size)
         IPC_HOST_LOGE("no shared memory block at the read position");
         return nullptr;
     }
+    // Its sender may still hold it: only seals make the checks below hold for as long as the block is read.
+    const int seals = fcntl(carried->fd, F_GET_SEALS);
+    if (seals < 0 || (seals & REQUIRED_BLOCK_SEALS) != REQUIRED_BLOCK_SEALS) {
+        IPC_HOST_LOGE("refused a shared memory block that can change (seals %{public}d)", seals);
+        return nullptr;
+    }
     struct stat status {};
     if (fstat(carried->fd, &status) != 0 || status.st_size < 0 || static_cast<size_t>(status.st_size) < size) {
         IPC_HOST_LOGE("shared memory block is smaller than %{public}zu bytes", size);
@@ -311,6 +327,11 @@ size_t MessageParcel::GetRawDataSize() const
 size_t MessageParcel::GetRawDataCapacity() const
 {
     return MAX_RAW_DATA_SIZE;
+}
+
+pid_t MessageParcel::GetSenderPid() const
+{
+    return senderPid_ > 0 ? senderPid_ : getpid();
 }
 
 void MessageParcel::WriteNoException()

@@ -128,6 +128,7 @@ bool ParcelWire::ToParcel(IpcFrame& frame, const std::shared_ptr<Session>& from,
     for (UniqueFd& fd : frame.fds) {
         fd.Release();
     }
+    parcel.senderPid_ = from->PeerPid();
     return ParcelRecords::Append(parcel, frame.MutableData(), frame.DataSize(), std::move(records));
 }
 

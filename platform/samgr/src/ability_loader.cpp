@@ -19,6 +19,7 @@
 #include <functional>
 #include <utility>
 
+#include "ipc_host_transport.h"
 #include "ipc_threads.h"
 #include "isystem_ability_load_callback.h"
 #include "message_option.h"
@@ -158,19 +159,25 @@ void AbilityLoader::DeliverLoad(int32_t systemAbilityId, const sptr<IRemoteObjec
     const bool scriptedFailure = script.outcome == LoadScript::Outcome::FAIL;
     sptr<IRemoteObject> ability = scriptedFailure ? nullptr : FindOrStart(systemAbilityId);
     StopAwaiting(systemAbilityId, callback);
-    if (scriptedFailure) {
-        NotifyFailed(callback, systemAbilityId, script.failCode);
-    } else if (ability == nullptr) {
+    if (!scriptedFailure && ability == nullptr) {
         SAMGR_HOST_LOGE("system ability %{public}d cannot be loaded", systemAbilityId);
-        NotifyFailed(callback, systemAbilityId, LOAD_SA_TIMEOUT);
-    } else {
-        const bool otherId = script.outcome == LoadScript::Outcome::OTHER_ID;
-        NotifyLoaded(callback, otherId ? script.otherId : systemAbilityId, ability);
     }
+    notifier_.Deliver(IpcHostTransport::PeerPid(callback), [callback, systemAbilityId, script, ability] {
+        if (script.outcome == LoadScript::Outcome::FAIL) {
+            NotifyFailed(callback, systemAbilityId, script.failCode);
+        } else if (ability == nullptr) {
+            NotifyFailed(callback, systemAbilityId, LOAD_SA_TIMEOUT);
+        } else {
+            const bool otherId = script.outcome == LoadScript::Outcome::OTHER_ID;
+            NotifyLoaded(callback, otherId ? script.otherId : systemAbilityId, ability);
+        }
+    });
 }
 
 void AbilityLoader::Reset()
 {
+    constexpr auto NOTICES_TIMEOUT = std::chrono::seconds(5);
+    notifier_.WaitIdle(NOTICES_TIMEOUT);
     std::map<int32_t, SamgrHostControl::Loader> loaders;
     std::map<int32_t, std::vector<sptr<IRemoteObject>>> awaiting;
     std::lock_guard<std::mutex> lock(mutex_);

@@ -16,7 +16,7 @@
 /*
  * Host: loads abilities on demand. Holds how each loadable ability is started (its loader, the host's profile of
  * it), starts one that is not running, and tells a load request's callback the outcome, one-way, as scripted faults
- * may change it.
+ * may change it (through a LoadNotifier, so that a callback that never takes it holds no IPC thread).
  */
 #ifndef OHOS_SAMGR_ABILITY_LOADER_H
 #define OHOS_SAMGR_ABILITY_LOADER_H
@@ -28,6 +28,7 @@
 
 #include "ability_registry.h"
 #include "call_counters.h"
+#include "load_notifier.h"
 #include "samgr_host_control.h"
 #include "scripted_faults.h"
 
@@ -46,10 +47,10 @@ public:
     // 0 when accepted: the outcome reaches the callback later, on an IPC thread, once for each callback of an
     // ability that is starting. PROFILE_NOT_EXIST, and no callback, for an id without a loader.
     int32_t Load(int32_t systemAbilityId, const sptr<IRemoteObject>& callback);
+    bool HasProfile(int32_t systemAbilityId);
     void Reset();
 
 private:
-    bool HasProfile(int32_t systemAbilityId);
     // False if the callback waits for the ability's start already.
     bool AwaitStart(int32_t systemAbilityId, const sptr<IRemoteObject>& callback);
     void StopAwaiting(int32_t systemAbilityId, const sptr<IRemoteObject>& callback);
@@ -58,6 +59,7 @@ private:
     AbilityRegistry& registry_;
     ScriptedFaults& faults_;
     CallCounters& counters_;
+    LoadNotifier notifier_;
     std::mutex mutex_;
     // Serialises starts, so concurrent loads of an ability that is not running start one process, not two.
     std::mutex startMutex_;

@@ -50,28 +50,30 @@ std::vector<int32_t> AbilityRegistry::Ids()
     return ids;
 }
 
-sptr<IRemoteObject> AbilityRegistry::RunningLocked(int32_t systemAbilityId)
-{
-    auto it = abilities_.find(systemAbilityId);
-    if (it == abilities_.end()) {
-        return nullptr;
-    }
-    // A process that ended a moment ago may not have been forgotten yet, nor its death notice delivered.
-    if (IpcHostTransport::HasProcessEnded(it->second)) {
-        abilities_.erase(it);
-        return nullptr;
-    }
-    return it->second;
-}
-
 sptr<IRemoteObject> AbilityRegistry::Running(int32_t systemAbilityId)
 {
-    std::lock_guard<std::mutex> lock(mutex_);
-    return RunningLocked(systemAbilityId);
+    pid_t ended = -1;
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        auto it = abilities_.find(systemAbilityId);
+        if (it == abilities_.end()) {
+            return nullptr;
+        }
+        // A process that ended a moment ago may not have been forgotten yet, nor its death notice delivered.
+        if (!IpcHostTransport::HasProcessEnded(it->second)) {
+            return it->second;
+        }
+        ended = IpcHostTransport::PeerPid(it->second);
+        abilities_.erase(it);
+    }
+    // Its death notice will find it forgotten already: its process is told of here.
+    forgotten_(systemAbilityId, ended);
+    return nullptr;
 }
 
 void AbilityRegistry::Forget(int32_t systemAbilityId, const wptr<IRemoteObject>& object)
 {
+    pid_t pid = -1;
     {
         std::lock_guard<std::mutex> lock(mutex_);
         auto it = abilities_.find(systemAbilityId);
@@ -79,9 +81,10 @@ void AbilityRegistry::Forget(int32_t systemAbilityId, const wptr<IRemoteObject>&
             return;
         }
         SAMGR_HOST_LOGW("the process of system ability %{public}d ended", systemAbilityId);
+        pid = IpcHostTransport::PeerPid(it->second);
         abilities_.erase(it);
     }
-    forgotten_(systemAbilityId);
+    forgotten_(systemAbilityId, pid);
 }
 
 sptr<IRemoteObject> AbilityRegistry::Publish(int32_t systemAbilityId, const sptr<IRemoteObject>& ability)

@@ -35,8 +35,8 @@ namespace OHOS {
 
 class AbilityRegistry {
 public:
-    // Told the id of an ability forgotten because its process ended.
-    using Forgotten = std::function<void(int32_t systemAbilityId)>;
+    // Told the id of an ability forgotten because its process (pid, or -1 if unknown) ended.
+    using Forgotten = std::function<void(int32_t systemAbilityId, pid_t pid)>;
 
     explicit AbilityRegistry(Forgotten forgotten);
 
@@ -60,7 +60,6 @@ public:
 private:
     // Drops the ability if `object` is still the one registered for the id.
     void Forget(int32_t systemAbilityId, const wptr<IRemoteObject>& object);
-    sptr<IRemoteObject> RunningLocked(int32_t systemAbilityId);
 
     class AbilityDeath;
 

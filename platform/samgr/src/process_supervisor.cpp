@@ -154,13 +154,31 @@ pid_t ProcessSupervisor::Kill(int32_t systemAbilityId, pid_t pid)
     return pid;
 }
 
-void ProcessSupervisor::DropEnded(int32_t systemAbilityId)
+bool ProcessSupervisor::HasStarted(pid_t pid)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    auto process = processes_.find(systemAbilityId);
-    if (process != processes_.end() && process->second->Ended()) {
+    for (const auto& [id, process] : processes_) {
+        if (process->Pid() == pid) {
+            return true;
+        }
+    }
+    return false;
+}
+
+void ProcessSupervisor::DropEnded(int32_t systemAbilityId, pid_t pid)
+{
+    std::unique_ptr<ChildProcess> ended;
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        auto process = processes_.find(systemAbilityId);
+        if (process == processes_.end() || process->second->Pid() != pid) {
+            return;
+        }
+        ended = std::move(process->second);
         processes_.erase(process);
     }
+    // Its sessions ended before it did: it may not be a zombie yet, and the wait for it is short.
+    ended->Kill();
 }
 
 std::vector<std::unique_ptr<ChildProcess>> ProcessSupervisor::TakeAll()

@@ -47,8 +47,10 @@ public:
     void StartAhead(int32_t systemAbilityId, const std::string& executable, const std::string& socketPath);
     // Kills process pid, which stands behind the ability, and returns once its end is seen here.
     pid_t Kill(int32_t systemAbilityId, pid_t pid);
-    // Forgets the ability's process if it has ended.
-    void DropEnded(int32_t systemAbilityId);
+    // Whether pid is a process started here and not yet forgotten.
+    bool HasStarted(pid_t pid);
+    // The ability's process pid ended, or left its sessions: it is forgotten and reaped, so that none is left a zombie.
+    void DropEnded(int32_t systemAbilityId, pid_t pid);
     // Every process, held ones included, no longer supervised: they are stopped as they are destroyed.
     std::vector<std::unique_ptr<ChildProcess>> TakeAll();
 

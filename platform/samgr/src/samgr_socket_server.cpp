@@ -15,6 +15,7 @@
 
 #include "samgr_socket_server.h"
 
+#include "errors.h"
 #include "if_system_ability_manager.h"
 #include "ipc_host_transport.h"
 #include "samgr_host_code.h"
@@ -62,7 +63,7 @@ bool IsHostControl(uint32_t code)
 } // namespace
 
 SamgrSocketServer::SamgrSocketServer(SystemAbilityManagerHost& manager) :
-    IPCObjectStub(ISystemAbilityManager::GetDescriptor()), manager_(manager)
+    IPCObjectStub(ISystemAbilityManager::GetDescriptor()), manager_(manager), gate_(manager)
 {
 }
 
@@ -71,6 +72,7 @@ bool SamgrSocketServer::Serve(const std::string& socketPath)
     if (!IpcHostTransport::ServeContextObject(socketPath, this)) {
         return false;
     }
+    gate_.NoteStarter();
     std::lock_guard<std::mutex> lock(mutex_);
     socketPath_ = socketPath;
     return true;
@@ -107,19 +109,26 @@ int SamgrSocketServer::AnswerManagerRequest(uint32_t code, MessageParcel& data, 
     if (!data.ReadInt32(systemAbilityId)) {
         return ERR_INVALID_DATA;
     }
+    const pid_t caller = data.GetSenderPid();
     switch (static_cast<SamgrHostCode>(code)) {
     case SamgrHostCode::GET:
         return Answer(WriteAbility(reply, manager_.GetSystemAbility(systemAbilityId)));
     case SamgrHostCode::CHECK:
         return Answer(WriteAbility(reply, manager_.CheckSystemAbility(systemAbilityId)));
     case SamgrHostCode::ADD:
-        return Answer(reply.WriteInt32(manager_.AddSystemAbility(systemAbilityId, data.ReadRemoteObject(), {})));
+        return Answer(reply.WriteInt32(gate_.MayChange(caller, "add", systemAbilityId)
+                                           ? manager_.AddSystemAbility(systemAbilityId, data.ReadRemoteObject(), {})
+                                           : ERR_PERMISSION_DENIED));
     case SamgrHostCode::REMOVE:
-        return Answer(reply.WriteInt32(manager_.RemoveSystemAbility(systemAbilityId)));
+        return Answer(reply.WriteInt32(gate_.MayChange(caller, "remove", systemAbilityId)
+                                           ? manager_.RemoveSystemAbility(systemAbilityId)
+                                           : ERR_PERMISSION_DENIED));
     case SamgrHostCode::LOAD:
         return Answer(reply.WriteInt32(manager_.Load(systemAbilityId, data.ReadRemoteObject())));
     case SamgrHostCode::UNLOAD:
-        return Answer(reply.WriteInt32(manager_.UnloadSystemAbility(systemAbilityId)));
+        return Answer(reply.WriteInt32(gate_.MayChange(caller, "unload", systemAbilityId)
+                                           ? manager_.UnloadSystemAbility(systemAbilityId)
+                                           : ERR_PERMISSION_DENIED));
     default:
         return IPCObjectStub::OnRemoteRequest(code, data, reply, option);
     }
@@ -127,14 +136,17 @@ int SamgrSocketServer::AnswerManagerRequest(uint32_t code, MessageParcel& data, 
 
 int SamgrSocketServer::AnswerHostControl(uint32_t code, MessageParcel& data, MessageParcel& reply)
 {
+    const pid_t caller = data.GetSenderPid();
     if (code == static_cast<uint32_t>(SamgrHostCode::SCRIPT_LOADS)) {
         LoadScript script;
         int32_t count = 0;
         if (!ReadScript(data, script, count)) {
             return ERR_INVALID_DATA;
         }
-        manager_.ScriptLoads(script, count);
-        return ERR_NONE;
+        if (!gate_.MayControl(caller, "scripted loads")) {
+            return ERR_PERMISSION_DENIED;
+        }
+        return manager_.ScriptLoads(script, count) ? static_cast<int>(ERR_NONE) : static_cast<int>(ERR_INVALID_VALUE);
     }
     int32_t systemAbilityId = 0;
     if (!data.ReadInt32(systemAbilityId)) {
@@ -142,6 +154,9 @@ int SamgrSocketServer::AnswerHostControl(uint32_t code, MessageParcel& data, Mes
     }
     switch (static_cast<SamgrHostCode>(code)) {
     case SamgrHostCode::KILL:
+        if (!gate_.MayControl(caller, "a kill")) {
+            return ERR_PERMISSION_DENIED;
+        }
         return Answer(reply.WriteInt32(manager_.Kill(systemAbilityId)));
     case SamgrHostCode::LOOKUP_COUNT:
         return Answer(reply.WriteInt32(manager_.LookupCount(systemAbilityId)));

@@ -24,6 +24,7 @@
 #include <mutex>
 #include <string>
 
+#include "host_control_gate.h"
 #include "ipc_object_stub.h"
 
 namespace OHOS {
@@ -47,6 +48,7 @@ private:
     int AnswerHostControl(uint32_t code, MessageParcel& data, MessageParcel& reply);
 
     SystemAbilityManagerHost& manager_;
+    HostControlGate gate_;
     std::mutex mutex_;
     std::string socketPath_;
 };

@@ -15,14 +15,22 @@
 
 #include "scripted_faults.h"
 
+#include "samgr_log.h"
+
 namespace OHOS {
 
-void ScriptedFaults::ScriptLoads(const LoadScript& script, int count)
+bool ScriptedFaults::ScriptLoads(const LoadScript& script, int count)
 {
     std::lock_guard<std::mutex> lock(mutex_);
+    if (count < 0 || static_cast<size_t>(count) > MAX_SCRIPTED_LOADS - scripts_.size()) {
+        SAMGR_HOST_LOGE("refused %{public}d scripted loads: %{public}zu wait already, %{public}zu at most", count,
+                        scripts_.size(), MAX_SCRIPTED_LOADS);
+        return false;
+    }
     for (int i = 0; i < count; ++i) {
         scripts_.push_back(script);
     }
+    return true;
 }
 
 LoadScript ScriptedFaults::NextLoad()

@@ -20,6 +20,7 @@
 #ifndef OHOS_SAMGR_SCRIPTED_FAULTS_H
 #define OHOS_SAMGR_SCRIPTED_FAULTS_H
 
+#include <cstddef>
 #include <deque>
 #include <mutex>
 
@@ -29,7 +30,11 @@ namespace OHOS {
 
 class ScriptedFaults {
 public:
-    void ScriptLoads(const LoadScript& script, int count);
+    // Scripts waiting at once, at most: a test scripts a handful.
+    static constexpr size_t MAX_SCRIPTED_LOADS = 1000;
+
+    // False (logged), and nothing scripted, for a count below zero or beyond what is left of the bound.
+    bool ScriptLoads(const LoadScript& script, int count);
     // The script of the next load: the first one scripted, else the normal outcome.
     LoadScript NextLoad();
     void SetUnavailable(bool unavailable);

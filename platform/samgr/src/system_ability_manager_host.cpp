@@ -18,6 +18,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <unistd.h>
 #include <utility>
 
 #include "ipc_host_transport.h"
@@ -38,8 +39,8 @@ SystemAbilityManagerHost& SystemAbilityManagerHost::Instance()
 }
 
 SystemAbilityManagerHost::SystemAbilityManagerHost() :
-    registry_([this](int32_t systemAbilityId) { processes_.DropEnded(systemAbilityId); }), processes_(registry_),
-    loader_(registry_, faults_, counters_), server_(new SamgrSocketServer(*this))
+    registry_([this](int32_t systemAbilityId, pid_t pid) { processes_.DropEnded(systemAbilityId, pid); }),
+    processes_(registry_), loader_(registry_, faults_, counters_), server_(new SamgrSocketServer(*this))
 {
 }
 
@@ -160,9 +161,9 @@ void SystemAbilityManagerHost::RegisterLoader(int32_t systemAbilityId, SamgrHost
     loader_.RegisterLoader(systemAbilityId, std::move(loader));
 }
 
-void SystemAbilityManagerHost::ScriptLoads(const LoadScript& script, int count)
+bool SystemAbilityManagerHost::ScriptLoads(const LoadScript& script, int count)
 {
-    faults_.ScriptLoads(script, count);
+    return faults_.ScriptLoads(script, count);
 }
 
 void SystemAbilityManagerHost::SetUnavailable(bool unavailable)
@@ -191,6 +192,26 @@ pid_t SystemAbilityManagerHost::Kill(int32_t systemAbilityId)
         return 0;
     }
     return processes_.Kill(systemAbilityId, IpcHostTransport::PeerPid(ability));
+}
+
+bool SystemAbilityManagerHost::HasStarted(pid_t pid)
+{
+    return processes_.HasStarted(pid);
+}
+
+pid_t SystemAbilityManagerHost::HolderOf(int32_t systemAbilityId)
+{
+    sptr<IRemoteObject> ability = registry_.Running(systemAbilityId);
+    if (ability == nullptr) {
+        return 0;
+    }
+    const pid_t peer = IpcHostTransport::PeerPid(ability);
+    return peer > 0 ? peer : getpid();
+}
+
+bool SystemAbilityManagerHost::HasProfile(int32_t systemAbilityId)
+{
+    return loader_.HasProfile(systemAbilityId);
 }
 
 int SystemAbilityManagerHost::LookupCount(int32_t systemAbilityId)

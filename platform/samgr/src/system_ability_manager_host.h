@@ -66,13 +66,20 @@ public:
     void RegisterProcess(int32_t systemAbilityId, SamgrHostControl::CommandLine commandLine);
     void StartAhead(int32_t systemAbilityId, const std::string& executable);
     void RegisterLoader(int32_t systemAbilityId, SamgrHostControl::Loader loader);
-    void ScriptLoads(const LoadScript& script, int count);
+    // False (logged) for a count out of bounds.
+    bool ScriptLoads(const LoadScript& script, int count);
     void SetUnavailable(bool unavailable);
     bool IsUnavailable();
     void SetDeathRecipientsRefused(bool refused);
     // -1 if the ability was not running, 0 if it ran in this process, else the pid of the process killed (its end
     // seen here by the time this returns).
     pid_t Kill(int32_t systemAbilityId);
+    // Whether process pid is one that the manager started for an ability.
+    bool HasStarted(pid_t pid);
+    // The process that holds the running ability: this one's pid for an ability of this process, 0 if none runs.
+    pid_t HolderOf(int32_t systemAbilityId);
+    // Whether the manager knows how to start the ability.
+    bool HasProfile(int32_t systemAbilityId);
     int LookupCount(int32_t systemAbilityId);
     int LoadCount(int32_t systemAbilityId);
     void Reset();

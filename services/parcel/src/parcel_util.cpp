@@ -64,8 +64,8 @@ bool ParcelUtil::ReadBigString(MessageParcel& parcel, std::string& out, uint32_t
         SHARE_MANAGER_SERVICE_LOGE("Read chars error: %{public}d.", static_cast<int32_t>(size));
         return false;
     }
-    // A zero inside the block ends the text.
-    out.assign(block, std::strlen(block));
+    // A zero inside the block ends the text; the search never leaves the block.
+    out.assign(block, strnlen(block, size));
     SHARE_MANAGER_SERVICE_LOGI("Read message size %{public}d, real size:%{public}lu", static_cast<int32_t>(size),
                                static_cast<unsigned long>(out.size()));
     return true;

@@ -24,6 +24,7 @@
 #include <fcntl.h>
 #include <pwd.h>
 #include <signal.h>
+#include <sys/mman.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -31,7 +32,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
+#include <climits>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -48,7 +52,12 @@
 #include "captured_log.h"
 #include "ipc_host_transport.h"
 #include "ipc_object_stub.h"
+#include "ipc_threads.h"
+#include "iservice_registry.h"
+#include "message_parcel.h"
+#include "parcel_util.h"
 #include "process_table.h"
+#include "samgr_host_control.h"
 #include "user_runtime_directory.h"
 
 namespace OHOS {
@@ -59,6 +68,7 @@ using Zelkon::Eventually;
 using Zelkon::Gone;
 
 constexpr const char* DEFAULT_SOCKET = "share-emulator.sock";
+constexpr int32_t ABILITY_ID = 4801;
 
 // Paths made before the attacker's child is forked: the child only makes system calls.
 struct Scene {
@@ -183,6 +193,97 @@ bool SharectlKilledLeavesNothing(const Scene& scene)
            });
 }
 
+// A raw data block as a hostile sender makes it: its memfd, the text's size and the seals it carries. 1 when it is
+// read, 0 when it is refused, -1 if it could not be made.
+int ReadsHostileBlock(uint32_t size, off_t length, int seals)
+{
+    const int fd = memfd_create("hostile", MFD_CLOEXEC | MFD_ALLOW_SEALING);
+    const std::string text(size - 1, 'x');
+    MessageParcel parcel;
+    const size_t written = std::min(text.size(), static_cast<size_t>(length));
+    const bool made = ftruncate(fd, length) == 0 && pwrite(fd, text.c_str(), written, 0) >= 0 &&
+                      fcntl(fd, F_ADD_SEALS, seals) == 0 && parcel.WriteUint32(size) &&
+                      parcel.WriteInt32(static_cast<int32_t>(size)) && parcel.WriteFileDescriptor(fd);
+    close(fd);
+    std::string out;
+    return made ? static_cast<int>(Zelkon::ParcelUtil::ReadBigString(parcel, out, UINT32_MAX, 1)) : -1;
+}
+
+// The block a sender wrote cannot be shrunk nor rewritten by anyone who holds it, and reads as it was written.
+bool SentBlockStaysAsSent()
+{
+    const std::string text(40000, 'y');
+    MessageParcel parcel;
+    uint32_t size = 0;
+    int32_t rawSize = 0;
+    if (!Zelkon::ParcelUtil::WriteBigString(parcel, text) || !parcel.ReadUint32(size) || !parcel.ReadInt32(rawSize)) {
+        return false;
+    }
+    const int fd = parcel.ReadFileDescriptor();
+    const bool unchangeable = ftruncate(fd, 16) != 0 && pwrite(fd, "z", 1, size - 1) < 0;
+    close(fd);
+    std::string out;
+    parcel.RewindRead(0);
+    return unchangeable && Zelkon::ParcelUtil::ReadBigString(parcel, out, UINT32_MAX, 1) && out == text;
+}
+
+// This process serves the host system ability manager for the row's peers, then forgets everything.
+class ServedManager {
+public:
+    ServedManager() : socket_(UserRuntimeDirectory::UniqueSocketPath("samgr"))
+    {
+        serving_ = !socket_.empty() && SamgrHostControl::ServeAcrossProcesses(socket_);
+        SamgrHostControl::RegisterLoader(ABILITY_ID, [] { return Stub(); });
+    }
+    ~ServedManager()
+    {
+        IpcHostTransport::StopServingContextObject();
+        SamgrHostControl::Reset();
+    }
+    // An attack_peer that the manager did not start.
+    pid_t StartStranger(const std::vector<std::string>& arguments)
+    {
+        std::vector<std::string> strings = {ATTACK_PEER};
+        strings.insert(strings.end(), arguments.begin(), arguments.end());
+        std::vector<char*> argv;
+        for (std::string& argument : strings) {
+            argv.push_back(argument.data());
+        }
+        argv.push_back(nullptr);
+        std::string socketVariable = std::string(SamgrHostControl::SOCKET_ENVIRONMENT) + "=" + socket_;
+        std::vector<char*> envp;
+        for (char** variable = environ; *variable != nullptr; ++variable) {
+            envp.push_back(*variable);
+        }
+        envp.push_back(socketVariable.data());
+        envp.push_back(nullptr);
+        const pid_t pid = fork();
+        if (pid == 0) {
+            execve(argv[0], argv.data(), envp.data());
+            _exit(127);
+        }
+        return pid;
+    }
+    // The stranger's exit status: 0 when the manager refused it.
+    int RunStranger(const std::vector<std::string>& arguments)
+    {
+        int status = -1;
+        waitpid(StartStranger(arguments), &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+    bool Serving() const { return serving_; }
+    const std::string& Socket() const { return socket_; }
+
+private:
+    std::string socket_;
+    bool serving_ = false;
+};
+
+sptr<IRemoteObject> LoadAbility()
+{
+    return SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager()->LoadSystemAbility(ABILITY_ID, 5);
+}
+
 const std::vector<Attack> ATTACKS = {
     {"SecondUidSquatsThePrivateDirectory", true,
      [](const Scene& scene) { return mkdir(scene.privateDirectory.c_str(), 0777) == 0 ? -1 : -2; },
@@ -248,12 +349,81 @@ const std::vector<Attack> ATTACKS = {
      },
      nullptr},
     {"SharectlKilledLeavesNoSocket", false, [](const Scene&) { return -1; }, SharectlKilledLeavesNothing, nullptr},
+    {"HostileRawDataBlocksAreRefused", false, [](const Scene&) { return -1; },
+     [](const Scene&) {
+         constexpr int ALL = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
+         return ReadsHostileBlock(40000, 40000, ALL) == 1 && ReadsHostileBlock(40000, 40000, 0) == 0 &&
+                ReadsHostileBlock(40000, 40000, F_SEAL_SHRINK) == 0 &&
+                ReadsHostileBlock(40000, 40000, F_SEAL_WRITE) == 0 && ReadsHostileBlock(40000, 16, ALL) == 0 &&
+                SentBlockStaysAsSent();
+     },
+     R"(refused a shared memory block that can change \(seals \d+\))"},
+    {"StrangerUsesHostControls", false, [](const Scene&) { return -1; },
+     [](const Scene&) {
+         ServedManager manager;
+         const sptr<IRemoteObject> ability = LoadAbility();
+         const std::string id = std::to_string(ABILITY_ID);
+         return manager.Serving() && ability != nullptr && manager.RunStranger({"kill", id}) == 0 &&
+                manager.RunStranger({"add", id}) == 0 && manager.RunStranger({"script-loads", "5"}) == 0 &&
+                LoadAbility() == ability;
+     },
+     R"(refused a kill from pid \d+, which this manager did not start)"},
+    {"HugeScriptedLoadCount", false, [](const Scene&) { return -1; },
+     [](const Scene&) {
+         SamgrHostControl::RegisterLoader(ABILITY_ID, [] { return Stub(); });
+         SamgrHostControl::ScriptLoads({LoadScript::Outcome::REFUSE}, 20000000);
+         const bool loaded = LoadAbility() != nullptr;
+         SamgrHostControl::Reset();
+         return loaded;
+     },
+     R"(refused 20000000 scripted loads)"},
+    {"LoadCallbacksThatNeverAnswer", false, [](const Scene&) { return -1; },
+     [](const Scene&) {
+         ServedManager manager;
+         // The stranger's outcomes go out once it has stopped; this user's comes after them.
+         SamgrHostControl::ScriptLoads({LoadScript::Outcome::FAIL, std::chrono::milliseconds(300)}, 16);
+         SamgrHostControl::ScriptLoads({LoadScript::Outcome::SUCCEED, std::chrono::milliseconds(600)});
+         const pid_t stranger = manager.StartStranger({"stall-loads", std::to_string(ABILITY_ID), "16"});
+         int status = 0;
+         const bool stopped = waitpid(stranger, &status, WUNTRACED) == stranger && WIFSTOPPED(status);
+         const bool loaded = LoadAbility() != nullptr;
+         kill(stranger, SIGKILL);
+         waitpid(stranger, nullptr, 0);
+         return manager.Serving() && stopped && loaded;
+     },
+     R"(dropped a load outcome for pid \d+: 8 wait for it already)"},
+    {"ServiceEndsAfterARefusedLoad", false, [](const Scene&) { return -1; },
+     [](const Scene&) {
+         ServedManager manager;
+         SamgrHostControl::RegisterProcess(ABILITY_ID, [] {
+             return std::vector<std::string>{ATTACK_PEER, "ability", std::to_string(ABILITY_ID)};
+         });
+         sptr<IRemoteObject> ability = LoadAbility();
+         const pid_t service = IpcHostTransport::PeerPid(ability);
+         SamgrHostControl::ScriptLoads({LoadScript::Outcome::REFUSE});
+         const bool refused = LoadAbility() == nullptr;
+         kill(service, SIGKILL);
+         ability = nullptr;
+         // Seen ended by a lookup, before or after its death notice.
+         const bool forgotten = Eventually([] {
+             return SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager()->CheckSystemAbility(
+                        ABILITY_ID) == nullptr;
+         });
+         return manager.Serving() && service > 0 && refused && forgotten && Eventually([service] {
+                    const std::vector<pid_t> children = ChildrenOf(getpid());
+                    return std::find(children.begin(), children.end(), service) == children.end();
+                });
+     },
+     R"(load of 4801 refused with)"},
 };
 
 class AttackTable : public testing::TestWithParam<Attack> {
 protected:
     static void SetUpTestSuite()
     {
+        // The IPC threads start with the first work posted, and stay.
+        IpcThreads::Post([] {});
+        IpcThreads::Drain();
         // The transport's own listener starts with this process's first serve and stays for its life.
         const std::string warmUp = UserRuntimeDirectory::UniqueSocketPath("attack-table");
         ASSERT_TRUE(IpcHostTransport::ServeContextObject(warmUp, Stub()));
