@@ -208,23 +208,27 @@ int Flood(const Scene& scene)
     return last >= 0 ? last : -2;
 }
 
-// A session opened, then a frame begun and never finished.
+// Two sessions opened: one stays idle, the other begins a frame and never finishes it (the one returned).
 int StallWithinAFrame(const Scene& scene)
 {
-    const int fd = Intrude(scene.processAddress, scene);
-    return fd >= 0 && Answer(fd) == 1 && SendAll(fd, scene.halfRelease) ? fd : -2;
+    const int idle = Intrude(scene.processAddress, scene);
+    const int stalled = Intrude(scene.processAddress, scene);
+    return Answer(idle) == 1 && Answer(stalled) == 1 && SendAll(stalled, scene.halfRelease) ? stalled : -2;
 }
 
-// The stalled session is dropped after the frame's deadline, not long after.
+// The stalled session is dropped once its frame's deadline passed, not long after; the idle one stays.
 bool StalledSessionDropped(const Scene&)
 {
-    const auto start = std::chrono::steady_clock::now();
-    const auto limit = start + FrameSocket::FRAME_DEADLINE + std::chrono::seconds(1);
-    const bool opened = IpcHostTransport::SessionCount() == 1;
-    while (IpcHostTransport::SessionCount() != 0 && std::chrono::steady_clock::now() < limit) {
+    using Clock = std::chrono::steady_clock;
+    constexpr auto MARGIN = std::chrono::milliseconds(500);
+    const auto start = Clock::now();
+    const bool opened = IpcHostTransport::SessionCount() == 2;
+    while (IpcHostTransport::SessionCount() == 2 && Clock::now() < start + FrameSocket::FRAME_DEADLINE + 2 * MARGIN) {
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
-    return opened && IpcHostTransport::SessionCount() == 0;
+    const auto dropped = Clock::now() - start;
+    std::this_thread::sleep_for(MARGIN);
+    return opened && IpcHostTransport::SessionCount() == 1 && dropped > FrameSocket::FRAME_DEADLINE - MARGIN;
 }
 
 // This process's own abstract listener, as every user can read it in /proc/net/unix.
