@@ -15,6 +15,7 @@
 
 #include "binder_buffer.h"
 
+#include "ipc_frame.h"
 #include "ipc_log.h"
 
 namespace OHOS {
@@ -27,6 +28,7 @@ size_t Aligned(size_t size)
 {
     return (size + ALIGNMENT - 1) / ALIGNMENT * ALIGNMENT;
 }
+static_assert(IpcFrame::MAX_DATA_SIZE == BinderBuffer::SIZE, "a frame carries whatever a binder buffer holds");
 } // namespace
 
 const std::shared_ptr<BinderBuffer>& BinderBuffer::OfProcess()

@@ -189,7 +189,7 @@ void ChannelServer::Serve(const std::shared_ptr<Session>& session, UniqueFd sock
 {
     for (;;) {
         IpcFrame request;
-        if (FrameSocket::Receive(socket.Get(), std::nullopt, request) != FrameSocket::Result::OK) {
+        if (FrameSocket::ReceiveRequest(socket.Get(), request) != FrameSocket::Result::OK) {
             return;
         }
         bool keepOpen = false;

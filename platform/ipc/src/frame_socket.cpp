@@ -26,6 +26,7 @@
 #include <sys/un.h>
 
 #include "ipc_log.h"
+#include "peer_credentials.h"
 
 namespace OHOS {
 namespace {
@@ -243,6 +244,22 @@ FrameSocket::Result FrameSocket::Receive(int socket, Deadline deadline, IpcFrame
     return Result::OK;
 }
 
+FrameSocket::Result FrameSocket::ReceiveRequest(int socket, IpcFrame& frame)
+{
+    pollfd entry{socket, POLLIN, 0};
+    while (poll(&entry, 1, -1) < 0) {
+        if (errno != EINTR) {
+            return Result::CLOSED;
+        }
+    }
+    const Result result = Receive(socket, Clock::now() + FRAME_DEADLINE, frame);
+    if (result == Result::TIMED_OUT) {
+        IPC_HOST_LOGE("dropped the connection of pid %{public}d: it stalled within a frame for %{public}lld s",
+                      PeerPid(socket), static_cast<long long>(FRAME_DEADLINE.count()));
+    }
+    return result;
+}
+
 UniqueFd FrameSocket::Connect(const std::string& address, Namespace space)
 {
     Address target;
@@ -256,6 +273,10 @@ UniqueFd FrameSocket::Connect(const std::string& address, Namespace space)
     // A listener that no longer accepts must not hold the caller forever.
     SetTimeouts(socket.Get(), CONNECT_TIMEOUT);
     if (connect(socket.Get(), reinterpret_cast<const sockaddr*>(&target.address), target.length) != 0) {
+        return UniqueFd();
+    }
+    if (!PeerCredentials::Of(socket.Get()).Admitted("server")) {
+        errno = EPERM;
         return UniqueFd();
     }
     return socket;

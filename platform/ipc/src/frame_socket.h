@@ -37,6 +37,8 @@ public:
     using Clock = std::chrono::steady_clock;
     using Deadline = std::optional<Clock::time_point>;
     enum class Namespace { ABSTRACT, FILESYSTEM };
+    // The largest frame crosses a Unix socket in milliseconds; a peer that takes this long within one has stalled.
+    static constexpr std::chrono::seconds FRAME_DEADLINE{3};
     enum class Result {
         OK,
         CLOSED,    // the peer closed the connection between frames, or it broke
@@ -46,12 +48,16 @@ public:
 
     // False if the connection is broken or stalls beyond the socket's send timeout.
     static bool Send(int socket, const std::vector<uint8_t>& bytes, const std::vector<int>& fds);
+    // A serving side's wait for the next frame of a peer: as long as it takes for the frame to begin (a request, or
+    // a release, comes when the peer has one), then at most FRAME_DEADLINE for the rest of it. A peer that stalls
+    // within a frame is dropped (TIMED_OUT, logged), so that a stalled connection holds neither memory nor a thread.
+    static Result ReceiveRequest(int socket, IpcFrame& frame);
     // Without a deadline, waits as long as it takes. lastOnSocket: nothing follows the frame until this side writes
     // again (a reply), so it is read ahead in one piece, and the first wait is the socket's receive timeout, which
     // the caller keeps at the time left to the deadline (SetTimeouts).
     static Result Receive(int socket, Deadline deadline, IpcFrame& frame, bool lastOnSocket = false);
 
-    // A connected socket, or an invalid one (logged).
+    // A connected socket, or an invalid one (logged; also when the server is neither this user's nor root's).
     static UniqueFd Connect(const std::string& address, Namespace space);
     // A socket listening at the address, or an invalid one (logged). A socket file is made for this user only.
     static UniqueFd Listen(const std::string& address, Namespace space);

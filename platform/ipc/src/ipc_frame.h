@@ -57,7 +57,8 @@ public:
     };
 
     static constexpr size_t HEADER_SIZE = 48;
-    static constexpr size_t MAX_DATA_SIZE = 256 * 1024 * 1024;
+    // A binder buffer's size: no larger parcel is ever sent (raw data above 32 KiB travels in shared memory).
+    static constexpr size_t MAX_DATA_SIZE = 1024 * 1024 - 2 * 4096;
     static constexpr size_t MAX_FDS = 253;
     static constexpr size_t MAX_ADDRESS_SIZE = 107;
     static constexpr size_t MAX_DESCRIPTOR_UNITS = 512;

@@ -20,9 +20,11 @@
 #include <thread>
 
 #include "channel_server.h"
+#include "connection_quota.h"
 #include "frame_socket.h"
 #include "ipc_log.h"
 #include "ipc_threads.h"
+#include "peer_credentials.h"
 #include "session_registry.h"
 
 namespace OHOS {
@@ -55,7 +57,7 @@ void Listener::Accept()
     for (;;) {
         const int connection = accept4(socket_.Get(), nullptr, nullptr, SOCK_CLOEXEC);
         if (connection >= 0) {
-            IpcThreads::StartThread([connection] { Serve(UniqueFd(connection)); });
+            Admit(UniqueFd(connection));
             continue;
         }
         if (errno == EINVAL) {
@@ -70,6 +72,21 @@ void Listener::Accept()
     std::lock_guard<std::mutex> lock(mutex_);
     accepting_ = false;
     stopped_.notify_all();
+}
+
+void Listener::Admit(UniqueFd connection)
+{
+    // Checked before a thread is spent on the connection: a refused one is closed here.
+    const PeerCredentials peer = PeerCredentials::Of(connection.Get());
+    if (!peer.Admitted("client")) {
+        return;
+    }
+    ConnectionQuota::Slot slot = ConnectionQuota::OfProcess().Take(peer);
+    if (slot == nullptr) {
+        return;
+    }
+    const int served = connection.Release();
+    IpcThreads::StartThread([served, slot] { Serve(UniqueFd(served)); });
 }
 
 void Listener::Serve(UniqueFd connection)

@@ -15,7 +15,8 @@
 
 /*
  * Host: a listening socket of this process (its own address, or the path of its context object), accepting on an
- * IPC thread of its own. Each connection gets a thread that reads its hello: a session hello makes it the reader of
+ * IPC thread of its own. A connection is served only for a peer that PeerCredentials admits and within its
+ * ConnectionQuota; it gets a thread that reads its hello: a session hello makes it the reader of
  * a new session, a channel hello makes it the server of that channel.
  */
 #ifndef OHOS_IPC_LISTENER_H
@@ -39,6 +40,8 @@ public:
 private:
     explicit Listener(UniqueFd socket);
     void Accept();
+    // Serves a connection of this user or root that its process's quota admits, on a thread of its own.
+    static void Admit(UniqueFd connection);
     static void Serve(UniqueFd connection);
 
     UniqueFd socket_;

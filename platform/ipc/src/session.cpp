@@ -113,7 +113,7 @@ void Session::ReadUntilEnd()
     }
     for (;;) {
         IpcFrame frame;
-        if (FrameSocket::Receive(socket, std::nullopt, frame) != FrameSocket::Result::OK) {
+        if (FrameSocket::ReceiveRequest(socket, frame) != FrameSocket::Result::OK) {
             break;
         }
         if (frame.kind != IpcFrame::Kind::RELEASE || !ExportTable::OfProcess().Release(frame.handle, serial_)) {

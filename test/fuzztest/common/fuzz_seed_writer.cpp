@@ -187,6 +187,11 @@ void WriteFrameSeeds()
     release.kind = IpcFrame::Kind::RELEASE;
     release.handle = 4;
     WriteFrameSeed("release", 0, release.Encode(nullptr, 0, 0));
+    // A header that announces one byte more than a binder buffer holds: refused before any body is read.
+    const std::vector<uint8_t> beyond(IpcFrame::MAX_DATA_SIZE + 1, 0);
+    std::vector<uint8_t> beyondBound = IpcFrame().Encode(beyond.data(), beyond.size(), 0);
+    beyondBound.resize(IpcFrame::HEADER_SIZE);
+    WriteFrameSeed("beyond_bound", 0, beyondBound);
 }
 } // namespace
 
