@@ -16,14 +16,18 @@
 /*
  * Attacks on the host world, one row each: what the attacker does first (another local user: a child of this
  * process that drops to an unused uid; or this user's own process that died), what this user then does, and what
- * must happen: the outcome, the line logged, and nothing of the user's reaching the attacker. The scene stands in
+ * must happen: the outcome, the line logged, and nothing of the user's reaching the attacker. A hostile process of
+ * this user's own is played in this process with raw frames (RawPeer, HostileServer). The scene stands in
  * for /tmp: a sticky directory that everyone may write, named by TMPDIR, without XDG_RUNTIME_DIR. After each row
  * the process's descriptors, threads and children are where they began.
  */
 #include <dirent.h>
 #include <fcntl.h>
+#include <linux/sockios.h>
+#include <poll.h>
 #include <pwd.h>
 #include <signal.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -31,11 +35,13 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <chrono>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <optional>
 #include <ostream>
 #include <regex>
@@ -45,10 +51,16 @@
 
 #include <gtest/gtest.h>
 
+#include "binder_results.h"
 #include "captured_log.h"
+#include "flat_object.h"
+#include "frame_socket.h"
+#include "ipc_frame.h"
 #include "ipc_host_transport.h"
 #include "ipc_object_stub.h"
 #include "process_table.h"
+#include "raw_peer.h"
+#include "scripted_stub.h"
 #include "user_runtime_directory.h"
 
 namespace OHOS {
@@ -57,6 +69,8 @@ using Zelkon::CapturedLog;
 using Zelkon::ChildrenOf;
 using Zelkon::Eventually;
 using Zelkon::Gone;
+using Zelkon::ScriptedStub;
+using namespace std::chrono_literals;
 
 constexpr const char* DEFAULT_SOCKET = "share-emulator.sock";
 
@@ -183,6 +197,212 @@ bool SharectlKilledLeavesNothing(const Scene& scene)
            });
 }
 
+// Whether the other side closed the connection; status is that of the last reply it sent before, if any.
+bool Ends(int socket, int& status)
+{
+    IpcFrame frame;
+    FrameSocket::Result result = FrameSocket::Result::OK;
+    while ((result = FrameSocket::Receive(socket, FrameSocket::Clock::now() + 5s, frame)) == FrameSocket::Result::OK) {
+        status = frame.status;
+    }
+    return result == FrameSocket::Result::CLOSED;
+}
+
+// Every session of the test's raw peers ended here, and its threads and descriptors with it.
+bool RawPeersGone()
+{
+    return IpcHostTransport::WaitForPeerGone(getpid(), 5s);
+}
+
+// Peer A is given an object of the user's; peer B names the handle of it in a call or an acquire. B is refused with
+// the platform's error and its session is closed; A still calls the object.
+bool ForgedHandleIsRefused(IpcFrame::Kind kind)
+{
+    const std::string path = UserRuntimeDirectory::SocketPath(DEFAULT_SOCKET);
+    sptr<ScriptedStub> context = new ScriptedStub(u"test.attack.Context");
+    sptr<IRemoteObject> given = Stub();
+    context->SetHandler([given](uint32_t, MessageParcel&, MessageParcel& reply) {
+        return reply.WriteRemoteObject(given) ? ERR_NONE : ERR_INVALID_DATA;
+    });
+    if (!IpcHostTransport::ServeContextObject(path, context)) {
+        return false;
+    }
+    RawPeer holder = OpenRawPeer(path, "attack.holder", 1, true);
+    RawPeer forger = OpenRawPeer(path, "attack.forger", 2, true);
+    IpcFrame call;
+    call.kind = IpcFrame::Kind::TRANSACTION;
+    call.code = 1;
+    call.transaction = 1;
+    IpcFrame reply;
+    const bool givenToHolder =
+        FrameSocket::Send(holder.channel.Get(), call.Encode(nullptr, 0, 0), {}) &&
+        FrameSocket::Receive(holder.channel.Get(), FrameSocket::Clock::now() + 5s, reply) == FrameSocket::Result::OK &&
+        reply.objects.size() == 1;
+    IpcFrame forged;
+    forged.kind = kind;
+    forged.handle = givenToHolder ? reply.objects[0].value : 0;
+    forged.transaction = 1;
+    int status = ERR_NONE;
+    int sessionStatus = ERR_NONE;
+    const bool refused =
+        givenToHolder && FrameSocket::Send(forger.channel.Get(), forged.Encode(nullptr, 0, 0), {}) &&
+        Ends(forger.channel.Get(), status) &&
+        status == (kind == IpcFrame::Kind::ACQUIRE ? static_cast<int>(ERR_UNKNOWN_OBJECT) : BR_FAILED_REPLY) &&
+        Ends(forger.session.Get(), sessionStatus);
+    call.handle = forged.handle;
+    const bool holderServed =
+        FrameSocket::Send(holder.channel.Get(), call.Encode(nullptr, 0, 0), {}) &&
+        FrameSocket::Receive(holder.channel.Get(), FrameSocket::Clock::now() + 5s, reply) == FrameSocket::Result::OK &&
+        reply.status == IPC_STUB_UNKNOW_TRANS_ERR;
+    holder = RawPeer();
+    forger = RawPeer();
+    IpcHostTransport::StopServingContextObject();
+    return refused && holderServed && RawPeersGone();
+}
+
+// A process of this user's own that serves a context object at a path and answers each call as the row scripts it,
+// with raw frames on a thread of its own; it ends when destroyed.
+class HostileServer {
+public:
+    using Answer = std::function<void(int channel, const IpcFrame& call)>;
+
+    HostileServer(const std::string& path, Answer answer) :
+        address_("attack.hostile." + std::to_string(getpid())),
+        sessions_(FrameSocket::Listen(path, FrameSocket::Namespace::FILESYSTEM)),
+        channels_(FrameSocket::Listen(address_, FrameSocket::Namespace::ABSTRACT)), answer_(std::move(answer)),
+        thread_([this] { Serve(); })
+    {
+    }
+    ~HostileServer()
+    {
+        shutdown(channelFd_.load(), SHUT_RDWR);
+        thread_.join();
+    }
+
+    // Waits until the caller read everything sent to it, so that the next frame arrives on its own.
+    static void WaitUntilRead(int socket)
+    {
+        Eventually([socket] {
+            int unread = 0;
+            return ioctl(socket, SIOCOUTQ, &unread) == 0 && unread == 0;
+        });
+    }
+    static void Reply(int channel, const IpcFrame& call, const std::vector<uint8_t>& data, IpcFrame reply = {})
+    {
+        reply.kind = IpcFrame::Kind::REPLY;
+        reply.transaction = call.transaction;
+        FrameSocket::Send(channel, reply.Encode(data.data(), data.size(), 0), {});
+    }
+
+private:
+    static UniqueFd Accept(int listener)
+    {
+        pollfd ready{listener, POLLIN, 0};
+        return UniqueFd(poll(&ready, 1, 5000) == 1 ? accept4(listener, nullptr, nullptr, SOCK_CLOEXEC) : -1);
+    }
+    void Serve()
+    {
+        UniqueFd session = Accept(sessions_.Get());
+        IpcFrame hello;
+        if (FrameSocket::Receive(session.Get(), FrameSocket::Clock::now() + 5s, hello) != FrameSocket::Result::OK ||
+            !FrameSocket::Send(session.Get(),
+                               IpcFrame::EncodeHello(IpcFrame::Kind::SESSION_HELLO, hello.handle, getpid(), address_),
+                               {})) {
+            return;
+        }
+        UniqueFd channel = Accept(channels_.Get());
+        channelFd_.store(channel.Get());
+        IpcFrame frame;
+        FrameSocket::Receive(channel.Get(), FrameSocket::Clock::now() + 5s, frame);
+        while (FrameSocket::Receive(channel.Get(), std::nullopt, frame) == FrameSocket::Result::OK) {
+            if (frame.kind == IpcFrame::Kind::ACQUIRE) {
+                const std::u16string descriptor = u"attack.Hostile";
+                const auto* bytes = reinterpret_cast<const uint8_t*>(descriptor.data());
+                Reply(channel.Get(), frame, {bytes, bytes + descriptor.size() * sizeof(char16_t)});
+            } else {
+                answer_(channel.Get(), frame);
+            }
+        }
+    }
+
+    const std::string address_;
+    UniqueFd sessions_;
+    UniqueFd channels_;
+    std::atomic<int> channelFd_{-1};
+    const Answer answer_;
+    std::thread thread_;
+};
+
+std::vector<uint8_t> Int32Data(int32_t value)
+{
+    const auto* bytes = reinterpret_cast<const uint8_t*>(&value);
+    return {bytes, bytes + sizeof(value)};
+}
+
+int32_t CallFor(const sptr<IRemoteObject>& object)
+{
+    MessageParcel data;
+    MessageParcel reply;
+    MessageOption option;
+    return object != nullptr && object->SendRequest(1, data, reply, option) == ERR_NONE ? reply.ReadInt32() : -1;
+}
+
+// The first call is answered twice; the stray second answer is dropped, and the next call gets its own.
+bool StrayReplyIsDropped(const Scene& scene)
+{
+    int32_t calls = 0;
+    sptr<IRemoteObject> object;
+    {
+        HostileServer server(scene.sharedSocket, [&calls](int channel, const IpcFrame& call) {
+            ++calls;
+            HostileServer::WaitUntilRead(channel);
+            HostileServer::Reply(channel, call, Int32Data(calls));
+            if (calls == 1) {
+                HostileServer::WaitUntilRead(channel);
+                HostileServer::Reply(channel, call, Int32Data(-calls));
+            }
+        });
+        object = IpcHostTransport::ConnectToContextObject(scene.sharedSocket);
+        if (CallFor(object) != 1 || CallFor(object) != 2) {
+            return false;
+        }
+    }
+    object = nullptr;
+    return RawPeersGone();
+}
+
+// The reply carries an object of a third process that never says hello: the object arrives as one whose process
+// ended, within the one second that a frame's imports may take.
+bool SilentThirdProcessObjectArrivesDead(const Scene& scene)
+{
+    const std::string silent = "attack.silent." + std::to_string(getpid());
+    UniqueFd silentListener = FrameSocket::Listen(silent, FrameSocket::Namespace::ABSTRACT);
+    sptr<IRemoteObject> third;
+    auto took = FrameSocket::Clock::duration::max();
+    {
+        HostileServer server(scene.sharedSocket, [&silent](int channel, const IpcFrame& call) {
+            IpcFrame reply;
+            reply.objects.push_back({0, IpcFrame::ObjectKind::FOREIGN, 7, u"attack.Third", silent});
+            HostileServer::Reply(channel, call, std::vector<uint8_t>(FlatObject::SIZE, 0), std::move(reply));
+        });
+        sptr<IRemoteObject> object = IpcHostTransport::ConnectToContextObject(scene.sharedSocket);
+        MessageParcel data;
+        MessageParcel reply;
+        MessageOption option;
+        const auto start = FrameSocket::Clock::now();
+        if (object == nullptr || object->SendRequest(1, data, reply, option) != ERR_NONE) {
+            return false;
+        }
+        took = FrameSocket::Clock::now() - start;
+        third = reply.ReadRemoteObject();
+    }
+    MessageParcel data;
+    MessageParcel reply;
+    MessageOption option;
+    return IpcHostTransport::HasProcessEnded(third) && third->SendRequest(1, data, reply, option) == BR_DEAD_REPLY &&
+           took < 2s && RawPeersGone();
+}
+
 const std::vector<Attack> ATTACKS = {
     {"SecondUidSquatsThePrivateDirectory", true,
      [](const Scene& scene) { return mkdir(scene.privateDirectory.c_str(), 0777) == 0 ? -1 : -2; },
@@ -248,6 +468,16 @@ const std::vector<Attack> ATTACKS = {
      },
      nullptr},
     {"SharectlKilledLeavesNoSocket", false, [](const Scene&) { return -1; }, SharectlKilledLeavesNothing, nullptr},
+    {"ForgedHandleInACall", false, [](const Scene&) { return -1; },
+     [](const Scene&) { return ForgedHandleIsRefused(IpcFrame::Kind::TRANSACTION); },
+     R"(pid \d+ used handle \d+, which was never given to it: the session is closed)"},
+    {"ForgedHandleInAnAcquire", false, [](const Scene&) { return -1; },
+     [](const Scene&) { return ForgedHandleIsRefused(IpcFrame::Kind::ACQUIRE); },
+     R"(pid \d+ used handle \d+, which was never given to it: the session is closed)"},
+    {"StrayReplyIsDropped", false, [](const Scene&) { return -1; }, StrayReplyIsDropped,
+     R"(dropped a stray reply to transaction \d+ while waiting for \d+)"},
+    {"SilentThirdProcessObjectArrivesDead", false, [](const Scene&) { return -1; }, SilentThirdProcessObjectArrivesDead,
+     R"(cannot open a session with attack\.silent\.\d+: no hello)"},
 };
 
 class AttackTable : public testing::TestWithParam<Attack> {
