@@ -87,8 +87,7 @@ int DumpTo(IRemoteObject& target, MessageParcel& data)
     return target.Dump(fd.Get(), args);
 }
 
-// The answer to a one-way request, sent once it is taken: whether it fit the binder buffer.
-// A reply to the request with the status and data given.
+// The reply to the request, with its transaction id: a status, and data only with ERR_NONE.
 std::vector<uint8_t> Answer(const IpcFrame& request, int status, const void* data = nullptr, size_t size = 0)
 {
     IpcFrame reply;
