@@ -16,16 +16,42 @@
 #include "channel.h"
 
 #include <algorithm>
+#include <atomic>
 #include <sys/socket.h>
 
+#include "ipc_log.h"
 #include "ipc_types.h"
 
 namespace OHOS {
 
+namespace {
+std::atomic<uint64_t> g_nextTransaction{1};
+
+int ResultOf(FrameSocket::Result received, const IpcFrame& reply)
+{
+    switch (received) {
+    case FrameSocket::Result::OK:
+        return reply.kind == IpcFrame::Kind::REPLY ? ERR_NONE : ERR_INVALID_REPLY;
+    case FrameSocket::Result::TIMED_OUT:
+        return ERR_TIMED_OUT;
+    case FrameSocket::Result::CLOSED:
+        return ERR_DEAD_OBJECT;
+    case FrameSocket::Result::REFUSED:
+        break;
+    }
+    return ERR_INVALID_REPLY;
+}
+} // namespace
+
 Channel::Channel(UniqueFd socket) : socket_(std::move(socket)) {}
 
-int Channel::Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds, FrameSocket::Deadline deadline,
-                  IpcFrame& reply)
+uint64_t Channel::NewTransaction()
+{
+    return g_nextTransaction.fetch_add(1, std::memory_order_relaxed);
+}
+
+int Channel::Call(uint64_t transaction, const std::vector<uint8_t>& bytes, const std::vector<int>& fds,
+                  FrameSocket::Deadline deadline, IpcFrame& reply)
 {
     int socket = -1;
     {
@@ -46,24 +72,14 @@ int Channel::Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds
         FrameSocket::SetTimeouts(socket, waitTime);
         timeout_ = waitTime;
     }
-    int result = ERR_NONE;
-    if (!FrameSocket::Send(socket, bytes, fds)) {
-        result = ERR_DEAD_OBJECT;
-    } else {
-        switch (FrameSocket::Receive(socket, deadline, reply, true)) {
-        case FrameSocket::Result::OK:
-            result = reply.kind == IpcFrame::Kind::REPLY ? ERR_NONE : ERR_INVALID_REPLY;
-            break;
-        case FrameSocket::Result::TIMED_OUT:
-            result = ERR_TIMED_OUT;
-            break;
-        case FrameSocket::Result::CLOSED:
-            result = ERR_DEAD_OBJECT;
-            break;
-        case FrameSocket::Result::REFUSED:
-            result = ERR_INVALID_REPLY;
+    int result = FrameSocket::Send(socket, bytes, fds) ? static_cast<int>(ERR_NONE) : ERR_DEAD_OBJECT;
+    while (result == ERR_NONE) {
+        result = ResultOf(FrameSocket::Receive(socket, deadline, reply, true), reply);
+        if (result != ERR_NONE || reply.transaction == transaction) {
             break;
         }
+        IPC_HOST_LOGW("dropped a stray reply to transaction %{public}llu while waiting for %{public}llu",
+                      static_cast<unsigned long long>(reply.transaction), static_cast<unsigned long long>(transaction));
     }
     std::lock_guard<std::mutex> lock(mutex_);
     inCall_ = false;

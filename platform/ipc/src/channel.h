@@ -22,6 +22,7 @@
 #define OHOS_IPC_CHANNEL_H
 
 #include <chrono>
+#include <cstdint>
 #include <mutex>
 #include <vector>
 
@@ -34,11 +35,14 @@ class Channel {
 public:
     explicit Channel(UniqueFd socket);
 
-    // Sends the frame and waits for the answer until the deadline, or without one as long as it takes (the peer
-    // answers, or its end retires the channel). ERR_NONE, ERR_TIMED_OUT, ERR_DEAD_OBJECT (closed or broken) or
-    // ERR_INVALID_REPLY (not a reply); on any failure the channel is closed.
-    int Call(const std::vector<uint8_t>& bytes, const std::vector<int>& fds, FrameSocket::Deadline deadline,
-             IpcFrame& reply);
+    // A transaction id never used before in this process.
+    static uint64_t NewTransaction();
+    // Sends the frame of the transaction and waits for its reply until the deadline, or without one as long as it
+    // takes (the peer answers, or its end retires the channel); a reply to another transaction is dropped (logged).
+    // ERR_NONE, ERR_TIMED_OUT, ERR_DEAD_OBJECT (closed or broken) or ERR_INVALID_REPLY (not a reply); on any failure
+    // the channel is closed.
+    int Call(uint64_t transaction, const std::vector<uint8_t>& bytes, const std::vector<int>& fds,
+             FrameSocket::Deadline deadline, IpcFrame& reply);
     // The reply was refused after it was read: the channel can no longer be trusted.
     void Close();
     bool IsOpen();

@@ -87,24 +87,37 @@ int DumpTo(IRemoteObject& target, MessageParcel& data)
     return target.Dump(fd.Get(), args);
 }
 
-// The answer to a one-way request, sent once it is taken: whether it fit the binder buffer.
-std::vector<uint8_t> Taken(int status)
+// The reply to the request, with its transaction id: a status, and data only with ERR_NONE.
+std::vector<uint8_t> Answer(const IpcFrame& request, int status, const void* data = nullptr, size_t size = 0)
 {
-    IpcFrame taken;
-    taken.kind = IpcFrame::Kind::REPLY;
-    taken.status = status;
-    return taken.Encode(nullptr, 0, 0);
-}
-
-bool AnswerAcquire(const Session& session, int socket, const IpcFrame& request)
-{
-    sptr<IRemoteObject> object = ExportTable::OfProcess().Acquire(request.handle, session.Serial());
-    const std::u16string descriptor = object != nullptr ? object->GetObjectDescriptor() : std::u16string();
     IpcFrame reply;
     reply.kind = IpcFrame::Kind::REPLY;
-    reply.status = object != nullptr ? ERR_NONE : ERR_UNKNOWN_OBJECT;
-    const std::vector<uint8_t> bytes =
-        reply.Encode(reinterpret_cast<const uint8_t*>(descriptor.data()), descriptor.size() * sizeof(char16_t), 0);
+    reply.transaction = request.transaction;
+    reply.status = status;
+    return reply.Encode(static_cast<const uint8_t*>(data), size, 0);
+}
+
+// The peer named a handle that was never given to it: refused, and its session ends.
+bool RefuseForged(Session& session, int socket, const IpcFrame& request, int status)
+{
+    IPC_HOST_LOGE("pid %{public}d used handle %{public}llu, which was never given to it: the session is closed",
+                  session.PeerPid(), static_cast<unsigned long long>(request.handle));
+    FrameSocket::Send(socket, Answer(request, status), {});
+    session.Close();
+    return false;
+}
+
+bool AnswerAcquire(Session& session, int socket, const IpcFrame& request)
+{
+    bool forged = false;
+    sptr<IRemoteObject> object =
+        ExportTable::OfProcess().Acquire(request.handle, session.Serial(), session.PeerAddress(), forged);
+    if (forged) {
+        return RefuseForged(session, socket, request, ERR_UNKNOWN_OBJECT);
+    }
+    const std::u16string descriptor = object != nullptr ? object->GetObjectDescriptor() : std::u16string();
+    const std::vector<uint8_t> bytes = Answer(request, object != nullptr ? ERR_NONE : ERR_UNKNOWN_OBJECT,
+                                              descriptor.data(), descriptor.size() * sizeof(char16_t));
     if (!FrameSocket::Send(socket, bytes, {})) {
         // The caller went away before it knew it held the reference.
         if (object != nullptr) {
@@ -113,6 +126,15 @@ bool AnswerAcquire(const Session& session, int socket, const IpcFrame& request)
         return false;
     }
     return true;
+}
+
+// A handle that the peer holds, passed on to a third process, which may acquire it from now on.
+bool AnswerGrant(Session& session, int socket, const IpcFrame& request)
+{
+    if (!ExportTable::OfProcess().Grant(request.handle, session.Serial(), request.Address())) {
+        return RefuseForged(session, socket, request, ERR_UNKNOWN_OBJECT);
+    }
+    return FrameSocket::Send(socket, Answer(request, ERR_NONE), {});
 }
 
 // The result of the request and its reply, as the driver carries them: a status only with an empty reply (a stub
@@ -132,11 +154,9 @@ int WriteReply(int result, const MessageParcel& reply, Session& to, IpcFrame& an
 
 bool AnswerTransaction(const std::shared_ptr<Session>& session, int socket, IpcFrame& request)
 {
-    sptr<IRemoteObject> target = ExportTable::OfProcess().Find(request.handle);
+    sptr<IRemoteObject> target = ExportTable::OfProcess().Find(request.handle, session->Serial());
     if (target == nullptr) {
-        IPC_HOST_LOGE("pid %{public}d called handle %{public}llu, which this process does not export",
-                      session->PeerPid(), static_cast<unsigned long long>(request.handle));
-        return false;
+        return RefuseForged(*session, socket, request, BR_FAILED_REPLY);
     }
     BinderBuffer::Space space =
         BinderBuffer::OfProcess()->Take(BinderBuffer::SpaceOf(request.DataSize(), request.objects.size()));
@@ -149,8 +169,8 @@ bool AnswerTransaction(const std::shared_ptr<Session>& session, int socket, IpcF
     // A one-way request is taken once its target and what it carries are held here: its sender learns so before it
     // may give back the references it held for it, as the driver holds them for a one-way transaction.
     const bool oneWay = (request.flags & MessageOption::TF_ASYNC) != 0;
-    if (oneWay &&
-        !FrameSocket::Send(socket, Taken(space != nullptr ? static_cast<int>(ERR_NONE) : BR_FAILED_REPLY), {})) {
+    if (oneWay && !FrameSocket::Send(
+                      socket, Answer(request, space != nullptr ? static_cast<int>(ERR_NONE) : BR_FAILED_REPLY), {})) {
         return false;
     }
     int result = BR_FAILED_REPLY;
@@ -170,11 +190,12 @@ bool AnswerTransaction(const std::shared_ptr<Session>& session, int socket, IpcF
     }
     IpcFrame answer;
     answer.kind = IpcFrame::Kind::REPLY;
+    answer.transaction = request.transaction;
     std::vector<uint8_t> bytes;
     std::vector<int> fds;
     answer.status = WriteReply(result, reply, *session, answer, bytes, fds);
     if (answer.status != ERR_NONE) {
-        bytes = answer.Encode(nullptr, 0, 0);
+        bytes = Answer(request, answer.status);
     }
     if (!FrameSocket::Send(socket, bytes, fds)) {
         // The caller went away: what the reply carried never reached it.
@@ -195,6 +216,8 @@ void ChannelServer::Serve(const std::shared_ptr<Session>& session, UniqueFd sock
         bool keepOpen = false;
         if (request.kind == IpcFrame::Kind::ACQUIRE) {
             keepOpen = AnswerAcquire(*session, socket.Get(), request);
+        } else if (request.kind == IpcFrame::Kind::GRANT) {
+            keepOpen = AnswerGrant(*session, socket.Get(), request);
         } else if (request.kind == IpcFrame::Kind::TRANSACTION) {
             keepOpen = AnswerTransaction(session, socket.Get(), request);
         } else {

@@ -15,6 +15,7 @@
 
 #include "export_table.h"
 
+#include <string>
 #include <vector>
 
 namespace OHOS {
@@ -37,22 +38,47 @@ uint64_t ExportTable::Export(const sptr<IRemoteObject>& object, uint64_t session
     return known->second;
 }
 
-sptr<IRemoteObject> ExportTable::Find(uint64_t handle)
+ExportTable::Entries::iterator ExportTable::Usable(uint64_t handle, uint64_t session)
+{
+    auto it = entries_.find(handle);
+    if (it == entries_.end() || it->second.served || it->second.references.count(session) != 0) {
+        return it;
+    }
+    return entries_.end();
+}
+
+sptr<IRemoteObject> ExportTable::Find(uint64_t handle, uint64_t session)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    auto it = entries_.find(handle);
+    auto it = Usable(handle, session);
     return it != entries_.end() ? it->second.object : nullptr;
 }
 
-sptr<IRemoteObject> ExportTable::Acquire(uint64_t handle, uint64_t session)
+sptr<IRemoteObject> ExportTable::Acquire(uint64_t handle, uint64_t session, const std::string& address, bool& forged)
 {
     std::lock_guard<std::mutex> lock(mutex_);
-    auto it = entries_.find(handle);
+    auto it = Usable(handle, session);
     if (it == entries_.end()) {
-        return nullptr;
+        it = entries_.find(handle);
+        // A handle let go since it was granted is gone; one never handed out, or not to this peer, is forged.
+        forged = handle >= nextHandle_ || (it != entries_.end() && it->second.grants.count(address) == 0);
+        if (it == entries_.end() || forged) {
+            return nullptr;
+        }
     }
     ++it->second.references[session];
     return it->second.object;
+}
+
+bool ExportTable::Grant(uint64_t handle, uint64_t session, const std::string& address)
+{
+    std::lock_guard<std::mutex> lock(mutex_);
+    auto it = entries_.find(handle);
+    if (it == entries_.end() || it->second.references.count(session) == 0) {
+        return false;
+    }
+    it->second.grants.insert(address);
+    return true;
 }
 
 bool ExportTable::Release(uint64_t handle, uint64_t session)
@@ -74,12 +100,13 @@ bool ExportTable::Release(uint64_t handle, uint64_t session)
     return true;
 }
 
-void ExportTable::ReleaseAll(uint64_t session)
+void ExportTable::ReleaseAll(uint64_t session, const std::string& address)
 {
     std::vector<sptr<IRemoteObject>> dropped;
     std::lock_guard<std::mutex> lock(mutex_);
     for (auto it = entries_.begin(); it != entries_.end();) {
         auto next = std::next(it);
+        it->second.grants.erase(address);
         if (it->second.references.erase(session) != 0) {
             ForgetIfUnheld(it, dropped);
         }

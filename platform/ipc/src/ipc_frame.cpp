@@ -23,7 +23,7 @@
 namespace OHOS {
 namespace {
 constexpr uint32_t MAGIC = 0x46435049; // "IPCF"
-constexpr uint16_t VERSION = 1;
+constexpr uint16_t VERSION = 2;
 constexpr size_t ENTRY_FIXED_SIZE = 24;
 
 size_t Pad4(size_t size)
@@ -48,6 +48,7 @@ struct Header {
     uint32_t flags;
     int32_t status;
     int32_t pid;
+    uint64_t transaction;
 };
 static_assert(sizeof(Header) == IpcFrame::HEADER_SIZE, "the header has no padding");
 
@@ -120,7 +121,7 @@ private:
 bool KnownKind(uint16_t kind)
 {
     return kind >= static_cast<uint16_t>(IpcFrame::Kind::SESSION_HELLO) &&
-           kind <= static_cast<uint16_t>(IpcFrame::Kind::RELEASE);
+           kind <= static_cast<uint16_t>(IpcFrame::Kind::GRANT);
 }
 
 bool CarriesObjects(IpcFrame::Kind kind)
@@ -153,9 +154,10 @@ const char* CheckHeader(const Header& header)
     if (!CarriesObjects(kind) && (header.objectCount != 0 || header.fdCount != 0)) {
         return "objects in a frame that carries none";
     }
-    const bool hello = kind == IpcFrame::Kind::SESSION_HELLO || kind == IpcFrame::Kind::CHANNEL_HELLO;
-    if (hello && (header.dataSize == 0 || header.dataSize > IpcFrame::MAX_ADDRESS_SIZE)) {
-        return "bad address in a hello";
+    const bool addressed =
+        kind == IpcFrame::Kind::SESSION_HELLO || kind == IpcFrame::Kind::CHANNEL_HELLO || kind == IpcFrame::Kind::GRANT;
+    if (addressed && (header.dataSize == 0 || header.dataSize > IpcFrame::MAX_ADDRESS_SIZE)) {
+        return "bad address in a hello or grant";
     }
     if ((kind == IpcFrame::Kind::RELEASE || kind == IpcFrame::Kind::ACQUIRE) && header.dataSize != 0) {
         return "data in a reference frame";
@@ -239,7 +241,8 @@ std::vector<uint8_t> IpcFrame::Encode(const uint8_t* data, size_t size, size_t f
                         code,
                         flags,
                         status,
-                        pid};
+                        pid,
+                        transaction};
     std::vector<uint8_t> bytes;
     bytes.reserve(HEADER_SIZE + size + table.size());
     Writer writer(bytes);
@@ -309,6 +312,7 @@ std::optional<IpcFrame> IpcFrame::Decode(std::vector<uint8_t> bytes, std::vector
     frame.flags = header.flags;
     frame.status = header.status;
     frame.pid = header.pid;
+    frame.transaction = header.transaction;
     frame.fds = std::move(fds);
     frame.dataSize_ = header.dataSize;
     frame.bytes_ = std::move(bytes);

@@ -15,9 +15,9 @@
 
 /*
  * Host: one frame of the transport between processes. A fixed header (magic, version, kind, sizes, handle, code,
- * flags, status, pid), the data bytes, then the table of the objects that the data holds. Descriptors travel beside
- * the bytes (SCM_RIGHTS) and the table names them by index. Decoding is a pure function of the bytes and the
- * descriptors received with them: anything that is not exactly a frame is refused.
+ * flags, status, pid, transaction), the data bytes, then the table of the objects that the data holds. Descriptors
+ * travel beside the bytes (SCM_RIGHTS) and the table names them by index. Decoding is a pure function of the bytes and
+ * the descriptors received with them: anything that is not exactly a frame is refused.
  */
 #ifndef OHOS_IPC_IPC_FRAME_H
 #define OHOS_IPC_IPC_FRAME_H
@@ -41,6 +41,7 @@ public:
         REPLY,             // status; data with objects and descriptors when the status is 0
         ACQUIRE,           // handle: take one reference for the session; the reply's data is the descriptor
         RELEASE,           // on the session: one reference on handle given back
+        GRANT,             // handle, held by the caller, may be acquired by the process at the address in the data
     };
     enum class ObjectKind : uint32_t {
         EXPORTED = 1, // a stub of the sender (value = its handle there), carrying one reference
@@ -56,7 +57,7 @@ public:
         std::string address;
     };
 
-    static constexpr size_t HEADER_SIZE = 48;
+    static constexpr size_t HEADER_SIZE = 56;
     // A binder buffer's size: no larger parcel is ever sent (raw data above 32 KiB travels in shared memory).
     static constexpr size_t MAX_DATA_SIZE = 1024 * 1024 - 2 * 4096;
     static constexpr size_t MAX_FDS = 253;
@@ -71,6 +72,8 @@ public:
     uint32_t flags = 0;
     int32_t status = 0;
     int32_t pid = 0;
+    // Chosen by the caller of a channel; its reply carries the same, so that a stray reply is told apart.
+    uint64_t transaction = 0;
     std::vector<Object> objects;
     // Received frames own their descriptors.
     std::vector<UniqueFd> fds;
@@ -88,7 +91,7 @@ public:
     const uint8_t* Data() const { return bytes_.data() + HEADER_SIZE; }
     uint8_t* MutableData() { return bytes_.data() + HEADER_SIZE; }
     size_t DataSize() const { return dataSize_; }
-    // The address that a hello carries.
+    // The address that a hello or a grant carries.
     std::string Address() const { return std::string(reinterpret_cast<const char*>(Data()), dataSize_); }
 
 private:

@@ -48,9 +48,14 @@ bool Describe(const sptr<IRemoteObject>& object, Session& to, IpcFrame::Object& 
     if (imported->session->PeerAddress() == to.PeerAddress()) {
         entry.kind = ObjectKind::RETURNED;
         entry.descriptor.clear();
-    } else {
-        entry.kind = ObjectKind::FOREIGN;
-        entry.address = imported->session->PeerAddress();
+        return true;
+    }
+    entry.kind = ObjectKind::FOREIGN;
+    entry.address = imported->session->PeerAddress();
+    if (!SessionProxy::Grant(imported->session, imported->handle, to.PeerAddress())) {
+        IPC_HOST_LOGE("pid %{public}d did not let handle %{public}llu go on to pid %{public}d",
+                      imported->session->PeerPid(), static_cast<unsigned long long>(imported->handle), to.PeerPid());
+        return false;
     }
     return true;
 }
@@ -99,6 +104,7 @@ bool ParcelWire::ToParcel(IpcFrame& frame, const std::shared_ptr<Session>& from,
 {
     std::vector<ParcelRecord> records;
     bool known = true;
+    const FrameSocket::Clock::time_point deadline = FrameSocket::Clock::now() + IMPORT_WAIT;
     // Every entry is taken, even after an unknown one, so that every carried reference is kept or given back.
     for (const IpcFrame::Object& entry : frame.objects) {
         ParcelRecord record{entry.offset, nullptr, INVALID_FD};
@@ -107,15 +113,15 @@ bool ParcelWire::ToParcel(IpcFrame& frame, const std::shared_ptr<Session>& from,
             record.fd = frame.fds[entry.value].Get();
             break;
         case ObjectKind::RETURNED:
-            record.object = ExportTable::OfProcess().Find(entry.value);
+            record.object = ExportTable::OfProcess().Find(entry.value, from->Serial());
             break;
         case ObjectKind::EXPORTED:
         case ObjectKind::FOREIGN:
-            record.object = import(from, entry);
+            record.object = import(from, entry, deadline);
             break;
         }
         if (entry.kind == ObjectKind::RETURNED && record.object == nullptr) {
-            IPC_HOST_LOGE("pid %{public}d named handle %{public}llu, which this process does not export",
+            IPC_HOST_LOGE("pid %{public}d named handle %{public}llu, which this process did not give it",
                           from->PeerPid(), static_cast<unsigned long long>(entry.value));
             known = false;
         }

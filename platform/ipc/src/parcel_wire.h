@@ -22,11 +22,13 @@
 #ifndef OHOS_IPC_PARCEL_WIRE_H
 #define OHOS_IPC_PARCEL_WIRE_H
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
 
+#include "frame_socket.h"
 #include "ipc_frame.h"
 #include "message_parcel.h"
 #include "session.h"
@@ -35,11 +37,17 @@ namespace OHOS {
 
 class ParcelWire {
 public:
-    // What an object of a peer, named by a frame that came through the session, becomes in this process.
-    using Importer = std::function<sptr<IRemoteObject>(const std::shared_ptr<Session>& from, const IpcFrame::Object&)>;
+    // What an object of a peer, named by a frame that came through the session, becomes in this process; a third
+    // process's object that cannot be reached by the deadline arrives dead.
+    using Importer = std::function<sptr<IRemoteObject>(const std::shared_ptr<Session>& from, const IpcFrame::Object&,
+                                                       FrameSocket::Clock::time_point deadline)>;
+    // How long all the third processes' objects of one frame may take to arrive: a process that does not answer
+    // within it cannot hold the call that carries them.
+    static constexpr std::chrono::seconds IMPORT_WAIT{1};
 
     // The bytes of the frame holding the parcel for the session's peer; fds are the parcel's descriptors to send
-    // beside them. ERR_FLATTEN_OBJECT (logged, nothing left exported) if something in the parcel cannot travel.
+    // beside them. A third process's object travels once its owner granted it to the peer. ERR_FLATTEN_OBJECT
+    // (logged, nothing left exported) if something in the parcel cannot travel.
     static int ToFrame(const MessageParcel& parcel, Session& to, IpcFrame& frame, std::vector<uint8_t>& bytes,
                        std::vector<int>& fds);
     // Takes back the references that a frame made by ToFrame carried: it never reached the peer.

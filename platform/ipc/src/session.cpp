@@ -16,6 +16,7 @@
 #include "session.h"
 
 #include <algorithm>
+#include <sys/socket.h>
 #include <utility>
 
 #include "export_table.h"
@@ -88,6 +89,14 @@ void Session::SendRelease(uint64_t handle)
     }
 }
 
+void Session::Close()
+{
+    std::lock_guard<std::mutex> lock(sendMutex_);
+    if (socket_ >= 0) {
+        shutdown(socket_.Get(), SHUT_RDWR);
+    }
+}
+
 void Session::AddChannel(const std::shared_ptr<Channel>& channel)
 {
     {
@@ -154,7 +163,7 @@ void Session::End()
         }
     }
     proxies.clear();
-    ExportTable::OfProcess().ReleaseAll(serial_);
+    ExportTable::OfProcess().ReleaseAll(serial_, peerAddress_);
     for (const std::weak_ptr<Channel>& held : channels) {
         if (std::shared_ptr<Channel> channel = held.lock()) {
             channel->Retire();

@@ -68,6 +68,9 @@ public:
     void Forget(uint64_t handle, const IRemoteObject* object);
     void SendRelease(uint64_t handle);
 
+    // The peer named a handle it was never given: the session ends as if the peer had died.
+    void Close();
+
     // A channel of this process to the peer, retired when the session ends (at once if it already has).
     void AddChannel(const std::shared_ptr<Channel>& channel);
     // Reads the session socket until it ends, then ends the session. Runs on a thread of its own.

@@ -17,6 +17,7 @@
 
 #include <chrono>
 #include <cstring>
+#include <string>
 
 #include "binder_buffer.h"
 #include "binder_results.h"
@@ -28,9 +29,9 @@
 
 namespace OHOS {
 namespace {
-// Taking a reference is the driver's own work, which a device does at once: an owner that does not answer within
-// this long is stuck, and the object is taken as dead.
-constexpr std::chrono::seconds ACQUIRE_WAIT{8};
+// Taking or granting a reference is the driver's own work, which a device does at once: an owner that does not
+// answer within this long is stuck, and the object is taken as dead.
+constexpr std::chrono::seconds REFERENCE_WAIT{8};
 } // namespace
 
 SessionProxy::SessionProxy(std::shared_ptr<Session> session, uint64_t handle, std::u16string descriptor) :
@@ -83,6 +84,7 @@ int SessionProxy::Transact(uint32_t code, MessageParcel& data, MessageParcel& re
     request.handle = handle;
     request.code = code;
     request.flags = static_cast<uint32_t>(option.GetFlags());
+    request.transaction = Channel::NewTransaction();
     std::vector<uint8_t> bytes;
     std::vector<int> fds;
     int result = ParcelWire::ToFrame(data, *session, request, bytes, fds);
@@ -91,7 +93,7 @@ int SessionProxy::Transact(uint32_t code, MessageParcel& data, MessageParcel& re
     }
     // A one-way request is answered as soon as the other process has taken it.
     IpcFrame answer;
-    result = channel->Call(bytes, fds, std::nullopt, answer);
+    result = channel->Call(request.transaction, bytes, fds, std::nullopt, answer);
     if (result != ERR_NONE) {
         IPC_HOST_LOGE("code %{public}u to pid %{public}d failed: %{public}d", code, session->PeerPid(), result);
         // The channel ends with the process: the reply never comes.
@@ -162,19 +164,20 @@ void SessionProxy::OnLastStrongRef(const void* objectId)
     }
 }
 
-sptr<IRemoteObject> SessionProxy::Import(const std::shared_ptr<Session>& from, const IpcFrame::Object& object)
+sptr<IRemoteObject> SessionProxy::Import(const std::shared_ptr<Session>& from, const IpcFrame::Object& object,
+                                         FrameSocket::Clock::time_point deadline)
 {
     if (object.kind == IpcFrame::ObjectKind::EXPORTED) {
         return Adopt(from, object.value, object.descriptor);
     }
-    std::shared_ptr<Session> owner = SessionRegistry::OfProcess().SessionTo(object.address);
+    std::shared_ptr<Session> owner = SessionRegistry::OfProcess().SessionTo(object.address, deadline);
     if (owner == nullptr) {
         return new SessionProxy(nullptr, object.value, object.descriptor);
     }
     if (sptr<IRemoteObject> known = owner->FindImport(object.value)) {
         return known;
     }
-    if (!Acquire(owner, object.value).has_value()) {
+    if (!Acquire(owner, object.value, deadline).has_value()) {
         IPC_HOST_LOGW("handle %{public}llu is unknown at pid %{public}d: its sender no longer held it",
                       static_cast<unsigned long long>(object.value), owner->PeerPid());
         return new SessionProxy(nullptr, object.value, object.descriptor);
@@ -184,7 +187,8 @@ sptr<IRemoteObject> SessionProxy::Import(const std::shared_ptr<Session>& from, c
 
 sptr<IRemoteObject> SessionProxy::ImportContext(const std::shared_ptr<Session>& session)
 {
-    std::optional<std::u16string> descriptor = Acquire(session, ExportTable::CONTEXT_HANDLE);
+    std::optional<std::u16string> descriptor =
+        Acquire(session, ExportTable::CONTEXT_HANDLE, FrameSocket::Clock::now() + REFERENCE_WAIT);
     if (!descriptor.has_value()) {
         IPC_HOST_LOGE("pid %{public}d serves no context object", session->PeerPid());
         return nullptr;
@@ -192,23 +196,42 @@ sptr<IRemoteObject> SessionProxy::ImportContext(const std::shared_ptr<Session>& 
     return Adopt(session, ExportTable::CONTEXT_HANDLE, *descriptor);
 }
 
-std::optional<std::u16string> SessionProxy::Acquire(const std::shared_ptr<Session>& session, uint64_t handle)
+std::optional<IpcFrame> SessionProxy::Reference(const std::shared_ptr<Session>& session, IpcFrame& request,
+                                                const std::string& data, FrameSocket::Clock::time_point deadline)
 {
     std::shared_ptr<Channel> channel = ThreadChannels::To(session);
     if (channel == nullptr) {
         return std::nullopt;
     }
+    request.transaction = Channel::NewTransaction();
+    const std::vector<uint8_t> bytes = request.Encode(reinterpret_cast<const uint8_t*>(data.data()), data.size(), 0);
+    IpcFrame answer;
+    if (channel->Call(request.transaction, bytes, {}, deadline, answer) != ERR_NONE || answer.status != ERR_NONE) {
+        return std::nullopt;
+    }
+    return answer;
+}
+
+bool SessionProxy::Grant(const std::shared_ptr<Session>& owner, uint64_t handle, const std::string& address)
+{
+    IpcFrame grant;
+    grant.kind = IpcFrame::Kind::GRANT;
+    grant.handle = handle;
+    return Reference(owner, grant, address, FrameSocket::Clock::now() + REFERENCE_WAIT).has_value();
+}
+
+std::optional<std::u16string> SessionProxy::Acquire(const std::shared_ptr<Session>& session, uint64_t handle,
+                                                    FrameSocket::Clock::time_point deadline)
+{
     IpcFrame acquire;
     acquire.kind = IpcFrame::Kind::ACQUIRE;
     acquire.handle = handle;
-    IpcFrame answer;
-    if (channel->Call(acquire.Encode(nullptr, 0, 0), {}, FrameSocket::Clock::now() + ACQUIRE_WAIT, answer) !=
-            ERR_NONE ||
-        answer.status != ERR_NONE || answer.DataSize() % sizeof(char16_t) != 0) {
+    std::optional<IpcFrame> answer = Reference(session, acquire, std::string(), deadline);
+    if (!answer.has_value() || answer->DataSize() % sizeof(char16_t) != 0) {
         return std::nullopt;
     }
-    std::u16string descriptor(answer.DataSize() / sizeof(char16_t), u'\0');
-    std::memcpy(descriptor.data(), answer.Data(), answer.DataSize());
+    std::u16string descriptor(answer->DataSize() / sizeof(char16_t), u'\0');
+    std::memcpy(descriptor.data(), answer->Data(), answer->DataSize());
     return descriptor;
 }
 

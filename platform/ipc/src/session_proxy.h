@@ -22,12 +22,14 @@
 #ifndef OHOS_IPC_SESSION_PROXY_H
 #define OHOS_IPC_SESSION_PROXY_H
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "death_notice.h"
+#include "frame_socket.h"
 #include "ipc_frame.h"
 #include "iremote_object.h"
 #include "session.h"
@@ -54,14 +56,23 @@ public:
     // What an object named by a frame from the session is here: a proxy that keeps the reference the frame carried,
     // or, for a third process's object, one that takes a reference at its owner now. A proxy whose owner no longer
     // knew the handle is dead: a sender keeps a third process's object alive only for as long as it holds it.
-    static sptr<IRemoteObject> Import(const std::shared_ptr<Session>& from, const IpcFrame::Object& object);
+    static sptr<IRemoteObject> Import(const std::shared_ptr<Session>& from, const IpcFrame::Object& object,
+                                      FrameSocket::Clock::time_point deadline);
+    // Asks the owner of the handle (the session's peer) to let the process at the address acquire it; false if it
+    // did not.
+    static bool Grant(const std::shared_ptr<Session>& owner, uint64_t handle, const std::string& address);
     // The context object of the session's peer; null (logged) if it serves none.
     static sptr<IRemoteObject> ImportContext(const std::shared_ptr<Session>& session);
 
 private:
     int Transact(uint32_t code, MessageParcel& data, MessageParcel& reply, MessageOption& option);
-    // Takes a reference on the handle in the peer's process; its descriptor, or nullopt if the handle is unknown.
-    static std::optional<std::u16string> Acquire(const std::shared_ptr<Session>& session, uint64_t handle);
+    // A call of the peer's process without data that takes no more than its driver's work: the reply, or nullopt.
+    static std::optional<IpcFrame> Reference(const std::shared_ptr<Session>& session, IpcFrame& request,
+                                             const std::string& data, FrameSocket::Clock::time_point deadline);
+    // Takes a reference on the handle in the peer's process; its descriptor, or nullopt if the handle is unknown or
+    // the peer did not answer by the deadline.
+    static std::optional<std::u16string> Acquire(const std::shared_ptr<Session>& session, uint64_t handle,
+                                                 FrameSocket::Clock::time_point deadline);
     // The proxy of the handle, holding the one reference this process was given (given back if one already holds).
     static sptr<IRemoteObject> Adopt(const std::shared_ptr<Session>& session, uint64_t handle,
                                      const std::u16string& descriptor);

@@ -64,7 +64,7 @@ SessionRegistry& SessionRegistry::OfProcess()
 
 SessionRegistry::SessionRegistry() : ownAddress_(NewOwnAddress()) {}
 
-std::shared_ptr<Session> SessionRegistry::SessionTo(const std::string& address)
+std::shared_ptr<Session> SessionRegistry::SessionTo(const std::string& address, FrameSocket::Clock::time_point deadline)
 {
     std::unique_lock<std::mutex> lock(mutex_);
     for (;;) {
@@ -75,14 +75,18 @@ std::shared_ptr<Session> SessionRegistry::SessionTo(const std::string& address)
         if (opening_.insert(address).second) {
             break;
         }
-        opened_.wait(lock);
+        if (opened_.wait_until(lock, deadline) == std::cv_status::timeout) {
+            IPC_HOST_LOGE("cannot reach %{public}s: another thread is still opening a session with it",
+                          address.c_str());
+            return nullptr;
+        }
     }
     lock.unlock();
     UniqueFd socket = FrameSocket::Connect(address, FrameSocket::Namespace::ABSTRACT);
     if (socket < 0) {
         IPC_HOST_LOGE("cannot reach %{public}s, errno %{public}d", address.c_str(), errno);
     }
-    std::shared_ptr<Session> session = socket >= 0 ? Open(std::move(socket), address) : nullptr;
+    std::shared_ptr<Session> session = socket >= 0 ? Open(std::move(socket), address, deadline) : nullptr;
     lock.lock();
     opening_.erase(address);
     opened_.notify_all();
@@ -100,7 +104,7 @@ std::shared_ptr<Session> SessionRegistry::SessionAt(const std::string& path)
         IPC_HOST_LOGE("nobody serves at %{public}s, errno %{public}d", path.c_str(), errno);
         return nullptr;
     }
-    std::shared_ptr<Session> session = Open(std::move(socket), path);
+    std::shared_ptr<Session> session = Open(std::move(socket), path, FrameSocket::Clock::now() + HELLO_TIMEOUT);
     if (session == nullptr) {
         return nullptr;
     }
@@ -113,14 +117,14 @@ std::shared_ptr<Session> SessionRegistry::SessionAt(const std::string& path)
     return session;
 }
 
-std::shared_ptr<Session> SessionRegistry::Open(UniqueFd socket, const std::string& target)
+std::shared_ptr<Session> SessionRegistry::Open(UniqueFd socket, const std::string& target,
+                                               FrameSocket::Clock::time_point deadline)
 {
     const uint64_t nonce = RandomNumber();
     IpcFrame answer;
     if (!FrameSocket::Send(socket.Get(),
                            IpcFrame::EncodeHello(IpcFrame::Kind::SESSION_HELLO, nonce, getpid(), ownAddress_), {}) ||
-        FrameSocket::Receive(socket.Get(), FrameSocket::Clock::now() + HELLO_TIMEOUT, answer) !=
-            FrameSocket::Result::OK ||
+        FrameSocket::Receive(socket.Get(), deadline, answer) != FrameSocket::Result::OK ||
         answer.kind != IpcFrame::Kind::SESSION_HELLO || answer.handle != nonce) {
         IPC_HOST_LOGE("cannot open a session with %{public}s: no hello", target.c_str());
         return nullptr;

@@ -30,6 +30,7 @@
 #include <sys/types.h>
 #include <vector>
 
+#include "frame_socket.h"
 #include "ipc_frame.h"
 #include "session.h"
 #include "unique_fd.h"
@@ -43,8 +44,8 @@ public:
     // An abstract-namespace name unique to this process instance.
     const std::string& OwnAddress() const { return ownAddress_; }
     // The live session with the process listening at the address, opened now if there is none; null (logged) if it
-    // cannot be reached.
-    std::shared_ptr<Session> SessionTo(const std::string& address);
+    // cannot be reached by the deadline.
+    std::shared_ptr<Session> SessionTo(const std::string& address, FrameSocket::Clock::time_point deadline);
     // The session with the process serving at the filesystem path; null (logged) if nobody serves there.
     std::shared_ptr<Session> SessionAt(const std::string& path);
     // Registers and answers a session that a peer opened with this hello; null (logged) if refused. The caller goes
@@ -61,7 +62,7 @@ private:
 
     // Opens a session on a connected socket, not registered yet; null (logged) if the peer does not answer as it
     // should.
-    std::shared_ptr<Session> Open(UniqueFd socket, const std::string& target);
+    std::shared_ptr<Session> Open(UniqueFd socket, const std::string& target, FrameSocket::Clock::time_point deadline);
     // Registers the session and starts its reader; under the lock.
     void Add(const std::shared_ptr<Session>& session);
     std::shared_ptr<Session> LiveTo(const std::string& address);

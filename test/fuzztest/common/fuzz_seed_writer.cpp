@@ -170,6 +170,7 @@ void WriteFrameSeeds()
     IpcFrame frame;
     frame.kind = IpcFrame::Kind::TRANSACTION;
     frame.code = 3;
+    frame.transaction = 11;
     frame.objects = {FrameObject(0, IpcFrame::ObjectKind::EXPORTED, 5, u"test.Listener"),
                      FrameObject(24, IpcFrame::ObjectKind::DESCRIPTOR, 0)};
     WriteFrameSeed("transaction", 1, frame.Encode(records.data(), records.size(), 1));
@@ -182,6 +183,7 @@ void WriteFrameSeeds()
     IpcFrame failed;
     failed.kind = IpcFrame::Kind::REPLY;
     failed.status = 5;
+    failed.transaction = 11;
     WriteFrameSeed("failed_reply", 0, failed.Encode(nullptr, 0, 0));
     IpcFrame release;
     release.kind = IpcFrame::Kind::RELEASE;
@@ -192,6 +194,16 @@ void WriteFrameSeeds()
     std::vector<uint8_t> beyondBound = IpcFrame().Encode(beyond.data(), beyond.size(), 0);
     beyondBound.resize(IpcFrame::HEADER_SIZE);
     WriteFrameSeed("beyond_bound", 0, beyondBound);
+    IpcFrame acquire;
+    acquire.kind = IpcFrame::Kind::ACQUIRE;
+    acquire.handle = 4;
+    acquire.transaction = 12;
+    WriteFrameSeed("acquire", 0, acquire.Encode(nullptr, 0, 0));
+    IpcFrame grant;
+    grant.kind = IpcFrame::Kind::GRANT;
+    grant.handle = 4;
+    grant.transaction = 13;
+    WriteFrameSeed("grant", 0, grant.Encode(reinterpret_cast<const uint8_t*>(address.data()), address.size(), 0));
 }
 } // namespace
 

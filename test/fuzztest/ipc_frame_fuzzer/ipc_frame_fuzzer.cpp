@@ -54,9 +54,18 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const std::vector<uint8_t> bytes(data + 1, data + size);
     const char* error = nullptr;
     std::optional<IpcFrame> frame = IpcFrame::Decode(bytes, std::move(fds), error);
-    // A refusal has a reason; an accepted frame has exactly one encoding, the one it arrived in.
+    // A refusal has a reason; an accepted frame has exactly one encoding, the one it arrived in (its transaction id
+    // included).
     if (frame.has_value() ? frame->Encode(frame->Data(), frame->DataSize(), frame->fds.size()) != bytes
                           : error == nullptr) {
+        abort();
+    }
+    // A hello or a grant names a process: an address of 1 to MAX_ADDRESS_SIZE bytes, and nothing else.
+    const bool addressed =
+        frame.has_value() && (frame->kind == IpcFrame::Kind::SESSION_HELLO ||
+                              frame->kind == IpcFrame::Kind::CHANNEL_HELLO || frame->kind == IpcFrame::Kind::GRANT);
+    if (addressed && (frame->Address().empty() || frame->Address().size() > IpcFrame::MAX_ADDRESS_SIZE ||
+                      !frame->objects.empty() || !frame->fds.empty())) {
         abort();
     }
     frame.reset();

@@ -24,6 +24,7 @@
 #include "frame_socket.h"
 #include "ipc_frame.h"
 #include "ipc_host_transport.h"
+#include "raw_peer.h"
 #include "transport_test_helpers.h"
 #include "unique_fd.h"
 
@@ -34,28 +35,6 @@ using namespace std::chrono_literals;
 constexpr size_t DATA_SIZE = 24;
 constexpr uint64_t UNKNOWN_HANDLE = 999999;
 const std::string RAW_ADDRESS = "test.raw.peer";
-
-// A session, and a channel in it, that this test opens by hand to its own process, which serves a context object.
-struct RawPeer {
-    UniqueFd session;
-    UniqueFd channel;
-};
-
-RawPeer OpenRawPeer(const std::string& path, uint64_t nonce, bool withChannel)
-{
-    RawPeer peer{FrameSocket::Connect(path, FrameSocket::Namespace::FILESYSTEM), UniqueFd()};
-    IpcFrame hello;
-    if (!FrameSocket::Send(peer.session.Get(),
-                           IpcFrame::EncodeHello(IpcFrame::Kind::SESSION_HELLO, nonce, getpid(), RAW_ADDRESS), {}) ||
-        FrameSocket::Receive(peer.session.Get(), FrameSocket::Clock::now() + 5s, hello) != FrameSocket::Result::OK ||
-        !withChannel) {
-        return peer;
-    }
-    peer.channel = FrameSocket::Connect(hello.Address(), FrameSocket::Namespace::ABSTRACT);
-    FrameSocket::Send(peer.channel.Get(),
-                      IpcFrame::EncodeHello(IpcFrame::Kind::CHANNEL_HELLO, nonce, getpid(), RAW_ADDRESS), {});
-    return peer;
-}
 
 // A call of the context object with DATA_SIZE bytes of data; cases change it before it is encoded.
 std::vector<uint8_t> Transaction(const std::function<void(IpcFrame&)>& change = {}, size_t fdCount = 0)
@@ -124,12 +103,16 @@ std::vector<RefusalCase> Cases()
     };
 }
 
-// The end of the connection, from the side that did not close it.
+// The end of the connection, from the side that did not close it, after whatever refusal it answered.
 bool ClosedByTheOtherSide(int socket)
 {
     pollfd ready{socket, POLLIN, 0};
-    char byte = 0;
-    return poll(&ready, 1, 5000) == 1 && recv(socket, &byte, 1, 0) <= 0;
+    char bytes[IpcFrame::HEADER_SIZE];
+    ssize_t got = 1;
+    while (got > 0 && poll(&ready, 1, 5000) == 1) {
+        got = recv(socket, bytes, sizeof(bytes), 0);
+    }
+    return got <= 0;
 }
 
 class IpcFrameRefusalTest : public testing::Test {
@@ -145,7 +128,7 @@ TEST_F(IpcFrameRefusalTest, MalformedFrameClosesItsConnectionAndLeavesNoDescript
     const int fdsBefore = OpenFds();
     uint64_t nonce = 0;
     for (const RefusalCase& refusal : Cases()) {
-        RawPeer peer = OpenRawPeer(path_, ++nonce, !refusal.onSession);
+        RawPeer peer = OpenRawPeer(path_, RAW_ADDRESS, ++nonce, !refusal.onSession);
         ASSERT_TRUE(peer.session >= 0 && (refusal.onSession || peer.channel >= 0)) << refusal.name;
         const int socket = refusal.onSession ? peer.session.Get() : peer.channel.Get();
         int pipeFds[2];
@@ -162,7 +145,7 @@ TEST_F(IpcFrameRefusalTest, MalformedFrameClosesItsConnectionAndLeavesNoDescript
         EXPECT_EQ(OpenFds(), fdsBefore) << refusal.name;
     }
     // The process serves on: a well-formed call is answered (the object knows no code: 305).
-    RawPeer peer = OpenRawPeer(path_, ++nonce, true);
+    RawPeer peer = OpenRawPeer(path_, RAW_ADDRESS, ++nonce, true);
     ASSERT_TRUE(FrameSocket::Send(peer.channel.Get(), Transaction(), {}));
     IpcFrame reply;
     ASSERT_EQ(FrameSocket::Receive(peer.channel.Get(), FrameSocket::Clock::now() + 5s, reply), FrameSocket::Result::OK);
