@@ -27,6 +27,7 @@
 
 #include "child_process.h"
 #include "emulator_processes.h"
+#include "iservice_registry.h"
 #include "share_emulator.h"
 
 namespace {
@@ -66,8 +67,10 @@ int main(int argc, char* argv[])
         command->add_option("--fault", faults, "A fault to arm (repeatable)");
     }
     options.serviceExecutable = OHOS::ChildProcess::OwnExecutable();
-    // Started ahead by the manager, the share service's process learns its command line when it is loaded.
-    std::vector<std::string> arguments = OHOS::ChildProcess::Arguments(argc, argv);
+    // Started ahead by the manager, the share service's process learns its command line when it is loaded. It meets
+    // the manager while it waits, so that its load has no connection left to make to it.
+    std::vector<std::string> arguments = OHOS::ChildProcess::Arguments(
+        argc, argv, [] { OHOS::SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager(); });
     std::vector<char*> argumentPointers;
     for (std::string& argument : arguments) {
         argumentPointers.push_back(argument.data());

@@ -26,6 +26,7 @@
 #define OHOS_SAMGR_CHILD_PROCESS_H
 
 #include <chrono>
+#include <functional>
 #include <map>
 #include <string>
 #include <sys/types.h>
@@ -68,8 +69,9 @@ public:
     // The path of this process's executable.
     static std::string OwnExecutable();
     // What a child's main calls first: its command line, as given, or from Release when it was started held. A held
-    // child whose starter ends before releasing it exits.
-    static std::vector<std::string> Arguments(int argc, char* argv[]);
+    // child runs `prepare` before it says it is ready, so that what it does there is off the path of its release; it
+    // exits if its starter ends before releasing it.
+    static std::vector<std::string> Arguments(int argc, char* argv[], const std::function<void()>& prepare = {});
     // What a child calls: blocks until its starter lets it go (its standard input ends), then returns.
     static void WaitForStarterGone();
     // What a child calls once it serves: the ready line.

@@ -233,10 +233,13 @@ std::string ChildProcess::OwnExecutable()
     return path;
 }
 
-std::vector<std::string> ChildProcess::Arguments(int argc, char* argv[])
+std::vector<std::string> ChildProcess::Arguments(int argc, char* argv[], const std::function<void()>& prepare)
 {
     if (argc != 2 || std::strcmp(argv[1], HELD_ARGUMENT) != 0) {
         return std::vector<std::string>(argv, argv + argc);
+    }
+    if (prepare) {
+        prepare();
     }
     // Loaded: the starter may hold it now. Its standard output was only for saying so.
     SayReady();

@@ -77,7 +77,11 @@ std::unique_ptr<ChildProcess> ProcessSupervisor::Launch(int32_t systemAbilityId,
 {
     std::unique_ptr<ChildProcess> held;
     {
-        std::lock_guard<std::mutex> lock(mutex_);
+        std::unique_lock<std::mutex> lock(mutex_);
+        readied_.wait(lock, [this, systemAbilityId] {
+            auto ahead = ahead_.find(systemAbilityId);
+            return ahead == ahead_.end() || !ahead->second.readying;
+        });
         auto ahead = ahead_.find(systemAbilityId);
         if (ahead != ahead_.end() && !commandLine.empty() && commandLine[0] == ahead->second.executable) {
             held = std::move(ahead->second.held);
@@ -108,13 +112,20 @@ void ProcessSupervisor::HoldNext(int32_t systemAbilityId, const ChildProcess::Op
             return;
         }
         executable = ahead->second.executable;
+        ahead->second.readying = true;
     }
     auto held = std::make_unique<ChildProcess>(executable, options);
-    std::lock_guard<std::mutex> lock(mutex_);
-    auto ahead = ahead_.find(systemAbilityId);
-    if (held->Started() && ahead != ahead_.end() && ahead->second.held == nullptr) {
-        ahead->second.held = std::move(held);
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        auto ahead = ahead_.find(systemAbilityId);
+        if (ahead != ahead_.end()) {
+            ahead->second.readying = false;
+            if (held->Started() && ahead->second.held == nullptr) {
+                ahead->second.held = std::move(held);
+            }
+        }
     }
+    readied_.notify_all();
 }
 
 bool ProcessSupervisor::StillStarting(int32_t systemAbilityId, pid_t pid, bool givenUp,

@@ -21,6 +21,7 @@
 #ifndef OHOS_SAMGR_PROCESS_SUPERVISOR_H
 #define OHOS_SAMGR_PROCESS_SUPERVISOR_H
 
+#include <condition_variable>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -58,9 +59,12 @@ private:
     struct Ahead {
         std::string executable;
         std::unique_ptr<ChildProcess> held;
+        // A next held process is on its way to being ready.
+        bool readying = false;
     };
 
-    // The held process released with the command line, or a process started with it.
+    // The held process released with the command line (one still readying is waited for: it is further on than a
+    // new one would be), or a process started with it.
     std::unique_ptr<ChildProcess> Launch(int32_t systemAbilityId, const std::vector<std::string>& commandLine,
                                          const ChildProcess::Options& options);
     // Starts the next held process of the ability, if it has an executable named ahead and none is held.
@@ -76,6 +80,7 @@ private:
     std::mutex mutex_;
     std::map<int32_t, std::unique_ptr<ChildProcess>> processes_;
     std::map<int32_t, Ahead> ahead_;
+    std::condition_variable readied_;
     std::mutex holderMutex_;
     std::thread holder_;
 };
