@@ -21,6 +21,7 @@
  */
 #include <benchmark/benchmark.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <memory>
 #include <sys/socket.h>
@@ -107,20 +108,27 @@ void BM_RawSocketRoundTrip(benchmark::State& state)
 }
 BENCHMARK(BM_RawSocketRoundTrip);
 
-void BM_CrossProcessSendRequest(benchmark::State& state)
+// One request to the peer each iteration; one that fails, or whose reply is not what `answered` expects, ends the run.
+template <typename ReplyCheck>
+void RequestEachIteration(benchmark::State& state, uint32_t code, MessageParcel& data, ReplyCheck answered)
 {
     const Peer& peer = ThePeer();
-    MessageParcel data;
-    WriteSmallRequest(data);
     for (auto _ : state) {
         MessageParcel reply;
         MessageOption option;
-        if (peer.remote->SendRequest(ECHO, data, reply, option) != ERR_NONE ||
-            reply.GetDataSize() != data.GetDataSize()) {
+        if (peer.remote->SendRequest(code, data, reply, option) != ERR_NONE || !answered(reply)) {
             state.SkipWithError("the request failed");
             break;
         }
     }
+}
+
+void BM_CrossProcessSendRequest(benchmark::State& state)
+{
+    MessageParcel data;
+    WriteSmallRequest(data);
+    RequestEachIteration(state, ECHO, data,
+                         [&data](const MessageParcel& reply) { return reply.GetDataSize() == data.GetDataSize(); });
 }
 BENCHMARK(BM_CrossProcessSendRequest);
 
@@ -142,17 +150,9 @@ BENCHMARK(BM_CrossProcessClientCall);
 
 void BM_CrossProcessConcurrentCalls(benchmark::State& state)
 {
-    const Peer& peer = ThePeer();
     MessageParcel data;
     data.WriteInt32(2);
-    for (auto _ : state) {
-        MessageParcel reply;
-        MessageOption option;
-        if (peer.remote->SendRequest(SLEEP, data, reply, option) != ERR_NONE) {
-            state.SkipWithError("the request failed");
-            break;
-        }
-    }
+    RequestEachIteration(state, SLEEP, data, [](const MessageParcel&) { return true; });
     state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(BM_CrossProcessConcurrentCalls)->Threads(1)->Threads(8)->UseRealTime()->MinTime(1.0);

@@ -161,6 +161,16 @@ IpcFrame::Object FrameObject(uint32_t offset, IpcFrame::ObjectKind kind, uint64_
     return IpcFrame::Object{offset, kind, value, descriptor, address};
 }
 
+// A frame about one handle of the session, a reference taken or given, with no objects of its own.
+IpcFrame HandleFrame(IpcFrame::Kind kind, uint64_t handle, uint64_t transaction)
+{
+    IpcFrame frame;
+    frame.kind = kind;
+    frame.handle = handle;
+    frame.transaction = transaction;
+    return frame;
+}
+
 void WriteFrameSeeds()
 {
     const std::string address = "ohos.ipc.1234.0123456789abcdef";
@@ -185,25 +195,16 @@ void WriteFrameSeeds()
     failed.status = 5;
     failed.transaction = 11;
     WriteFrameSeed("failed_reply", 0, failed.Encode(nullptr, 0, 0));
-    IpcFrame release;
-    release.kind = IpcFrame::Kind::RELEASE;
-    release.handle = 4;
-    WriteFrameSeed("release", 0, release.Encode(nullptr, 0, 0));
+    WriteFrameSeed("release", 0, HandleFrame(IpcFrame::Kind::RELEASE, 4, 0).Encode(nullptr, 0, 0));
     // A header that announces one byte more than a binder buffer holds: refused before any body is read.
     const std::vector<uint8_t> beyond(IpcFrame::MAX_DATA_SIZE + 1, 0);
     std::vector<uint8_t> beyondBound = IpcFrame().Encode(beyond.data(), beyond.size(), 0);
     beyondBound.resize(IpcFrame::HEADER_SIZE);
     WriteFrameSeed("beyond_bound", 0, beyondBound);
-    IpcFrame acquire;
-    acquire.kind = IpcFrame::Kind::ACQUIRE;
-    acquire.handle = 4;
-    acquire.transaction = 12;
-    WriteFrameSeed("acquire", 0, acquire.Encode(nullptr, 0, 0));
-    IpcFrame grant;
-    grant.kind = IpcFrame::Kind::GRANT;
-    grant.handle = 4;
-    grant.transaction = 13;
-    WriteFrameSeed("grant", 0, grant.Encode(reinterpret_cast<const uint8_t*>(address.data()), address.size(), 0));
+    WriteFrameSeed("acquire", 0, HandleFrame(IpcFrame::Kind::ACQUIRE, 4, 12).Encode(nullptr, 0, 0));
+    WriteFrameSeed("grant", 0,
+                   HandleFrame(IpcFrame::Kind::GRANT, 4, 13)
+                       .Encode(reinterpret_cast<const uint8_t*>(address.data()), address.size(), 0));
 }
 } // namespace
 

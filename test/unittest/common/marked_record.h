@@ -33,6 +33,12 @@ public:
     bool Marshalling(Parcel& parcel) const override { return MARKER != 0 && parcel.WriteInt32(MARKER); }
 };
 
+// The markers of the records that the requests of both clients carry.
+inline constexpr int32_t DEVICE = 0xDE71;
+inline constexpr int32_t SEND_BEAN = 0x5EB0;
+inline constexpr int32_t DATA_BEAN = 0xDA7A;
+inline constexpr int32_t BYTES_INFO = 0xB17E;
+
 } // namespace Zelkon
 } // namespace OHOS
 

@@ -18,6 +18,7 @@
  * leaves no partial reply, and the service keeps answering afterwards.
  */
 #include <cctype>
+#include <cstdint>
 #include <functional>
 #include <ostream>
 #include <string>
@@ -78,6 +79,17 @@ void ShareHead(MessageParcel& data)
     data.WriteBool(false);
 }
 
+// A request's head followed by 32-bit words: counts, sizes and flags as the services read them.
+std::function<void(MessageParcel&)> HeadThenWords(void (*head)(MessageParcel&), std::vector<uint32_t> words)
+{
+    return [head, words](MessageParcel& data) {
+        head(data);
+        for (uint32_t word : words) {
+            data.WriteUint32(word);
+        }
+    };
+}
+
 const std::vector<BadRequest> BAD_REQUESTS = {
     {"share service, token of the other service", Target::SHARE_SERVICE, 26, ManagerToken, ERR_INVALID_STATE},
     {"share manager, token of the other service", Target::SHARE_MANAGER, 3, ShareToken, ERR_INVALID_STATE},
@@ -85,12 +97,7 @@ const std::vector<BadRequest> BAD_REQUESTS = {
     {"share service, code 9 is not in use", Target::SHARE_SERVICE, 9, ShareToken, IPC_STUB_UNKNOW_TRANS_ERR},
     {"share service, code past the last", Target::SHARE_SERVICE, 28, ShareToken, IPC_STUB_UNKNOW_TRANS_ERR},
     {"share manager, code past the last", Target::SHARE_MANAGER, 37, ManagerToken, IPC_STUB_UNKNOW_TRANS_ERR},
-    {"unpublish without its listener", Target::SHARE_SERVICE, 2,
-     [](MessageParcel& data) {
-         ShareToken(data);
-         data.WriteInt32(1);
-     },
-     ERR_INVALID_DATA},
+    {"unpublish without its listener", Target::SHARE_SERVICE, 2, HeadThenWords(ShareToken, {1}), ERR_INVALID_DATA},
     {"file transfer without its record", Target::SHARE_SERVICE, 7, SendParams, ERR_INVALID_DATA},
     {"file transfer claiming more files than its bytes hold", Target::SHARE_SERVICE, 7,
      [](MessageParcel& data) {
@@ -100,11 +107,7 @@ const std::vector<BadRequest> BAD_REQUESTS = {
          data.WriteString("file:///a");
      },
      ERR_INVALID_DATA},
-    {"common share whose content claims 2 GiB", Target::SHARE_SERVICE, 14,
-     [](MessageParcel& data) {
-         ShareHead(data);
-         data.WriteUint32(0x80000000u);
-     },
+    {"common share whose content claims 2 GiB", Target::SHARE_SERVICE, 14, HeadThenWords(ShareHead, {0x80000000u}),
      ERR_INVALID_DATA},
     {"common share whose content is not terminated", Target::SHARE_SERVICE, 14,
      [](MessageParcel& data) {
@@ -113,20 +116,9 @@ const std::vector<BadRequest> BAD_REQUESTS = {
          data.WriteRawData("abcd", 4);
      },
      ERR_INVALID_DATA},
-    {"common share claiming a million items", Target::SHARE_SERVICE, 14,
-     [](MessageParcel& data) {
-         ShareHead(data);
-         data.WriteUint32(1);
-         data.WriteUint32(1000000);
-     },
+    {"common share claiming a million items", Target::SHARE_SERVICE, 14, HeadThenWords(ShareHead, {1, 1000000}),
      ERR_INVALID_DATA},
-    {"switch cut before its flag", Target::SHARE_MANAGER, 1,
-     [](MessageParcel& data) {
-         ManagerToken(data);
-         data.WriteInt32(0);
-         data.WriteInt32(1);
-     },
-     ERR_INVALID_DATA},
+    {"switch cut before its flag", Target::SHARE_MANAGER, 1, HeadThenWords(ManagerToken, {0, 1}), ERR_INVALID_DATA},
     {"prepare with half a device record", Target::SHARE_MANAGER, 12,
      [](MessageParcel& data) {
          ManagerToken(data);

@@ -27,6 +27,7 @@
 #include "sample_records.h"
 #include "services_in_processes.h"
 #include "share_manager_client.h"
+#include "world.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -34,10 +35,7 @@ namespace {
 
 using Fields = DecodedRequest::Fields;
 
-// Where the services run: in this process, or each in a process of its own under a manager served by a child of
-// this process. Every case runs in both.
-enum class World { IN_PROCESS, PROCESSES };
-
+// Every case runs in both worlds.
 class EmulatorConformanceTest : public EmulatorTest, public testing::WithParamInterface<World> {
 protected:
     static void TearDownTestSuite() { processes_.reset(); }
@@ -189,10 +187,7 @@ TEST_P(EmulatorConformanceTest, SendFileRequestDecodesWithItsRecordsAndPackageNa
     EXPECT_EQ(tail, expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(Worlds, EmulatorConformanceTest, testing::Values(World::IN_PROCESS, World::PROCESSES),
-                         [](const testing::TestParamInfo<World>& info) {
-                             return info.param == World::IN_PROCESS ? "InProcess" : "AcrossProcesses";
-                         });
+INSTANTIATE_TEST_SUITE_P(Worlds, EmulatorConformanceTest, BOTH_WORLDS, WorldName);
 
 } // namespace
 } // namespace Zelkon

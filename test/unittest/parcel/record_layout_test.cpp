@@ -242,6 +242,17 @@ void PrintTo(const RecordCase& record, std::ostream* out)
     *out << record.name;
 }
 
+// The record's layout written field by field into `parcel`: the offset at which each field starts.
+std::vector<size_t> WriteLayout(const RecordCase& record, MessageParcel& parcel)
+{
+    std::vector<size_t> offsets;
+    for (const Field& field : record.layout) {
+        offsets.push_back(parcel.GetDataSize());
+        EXPECT_TRUE(field.write(parcel));
+    }
+    return offsets;
+}
+
 // The records the library writes, and those it reads.
 class RecordWriterTest : public testing::TestWithParam<RecordCase> {};
 class RecordReaderTest : public testing::TestWithParam<RecordCase> {};
@@ -250,11 +261,7 @@ TEST_P(RecordWriterTest, WritesTheLayoutAndFailsWithTheFieldsTextWhereTheRoomEnd
 {
     const RecordCase& record = GetParam();
     MessageParcel expected;
-    std::vector<size_t> offsets;
-    for (const Field& field : record.layout) {
-        offsets.push_back(expected.GetDataSize());
-        ASSERT_TRUE(field.write(expected));
-    }
+    const std::vector<size_t> offsets = WriteLayout(record, expected);
     MessageParcel actual;
     ASSERT_TRUE(record.write(actual));
     EXPECT_EQ(BytesOf(actual), BytesOf(expected));
@@ -274,11 +281,7 @@ TEST_P(RecordReaderTest, ReadsTheLayoutBackAndRefusesItCutAtAnyByteNamingTheFiel
 {
     const RecordCase& record = GetParam();
     MessageParcel whole;
-    std::vector<size_t> offsets;
-    for (const Field& field : record.layout) {
-        offsets.push_back(whole.GetDataSize());
-        ASSERT_TRUE(field.write(whole));
-    }
+    const std::vector<size_t> offsets = WriteLayout(record, whole);
     const std::vector<uint8_t> bytes = BytesOf(whole);
     EXPECT_EQ(record.read(whole), Read::SAME);
     EXPECT_EQ(whole.GetReadableBytes(), 0u);

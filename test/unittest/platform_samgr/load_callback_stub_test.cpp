@@ -67,6 +67,14 @@ void WriteObject(MessageParcel& data)
     data.WriteRemoteObject(new IPCObjectStub(TEST_ABILITY_DESCRIPTOR));
 }
 
+// A remote load's outcome as the manager sends it: the device, the id, whether it loaded, then an object either way.
+std::function<void(MessageParcel&)> RemoteOutcome(bool loaded)
+{
+    return [loaded](MessageParcel& data) {
+        data.WriteString("dev-1"), data.WriteInt32(LOADABLE_ID), data.WriteBool(loaded), WriteObject(data);
+    };
+}
+
 const int32_t NONE = HeardOutcome::NO_ERR_CODE;
 
 const StubRow STUB_ROWS[] = {
@@ -98,21 +106,9 @@ const StubRow STUB_ROWS[] = {
      ERR_INVALID_VALUE,
      {}},
     {"FailureWithCodeWithoutId", FAIL_WITH_CODE, [](MessageParcel&) {}, ERR_INVALID_VALUE, {}},
-    {"RemoteLoaded",
-     REMOTE,
-     [](MessageParcel& data) {
-         data.WriteString("dev-1"), data.WriteInt32(LOADABLE_ID), data.WriteBool(true), WriteObject(data);
-     },
-     ERR_NONE,
-     {Heard(REMOTE, LOADABLE_ID, NONE, true, "dev-1")}},
+    {"RemoteLoaded", REMOTE, RemoteOutcome(true), ERR_NONE, {Heard(REMOTE, LOADABLE_ID, NONE, true, "dev-1")}},
     // The object that follows a remote failure is not the callback's.
-    {"RemoteFailed",
-     REMOTE,
-     [](MessageParcel& data) {
-         data.WriteString("dev-1"), data.WriteInt32(LOADABLE_ID), data.WriteBool(false), WriteObject(data);
-     },
-     ERR_NONE,
-     {Heard(REMOTE, LOADABLE_ID, NONE, false, "dev-1")}},
+    {"RemoteFailed", REMOTE, RemoteOutcome(false), ERR_NONE, {Heard(REMOTE, LOADABLE_ID, NONE, false, "dev-1")}},
     {"RemoteWithoutId", REMOTE, [](MessageParcel& data) { data.WriteString("dev-1"); }, ERR_INVALID_VALUE, {}},
 };
 

@@ -49,37 +49,44 @@ bool ReadsList(Parcel& parcel, const std::vector<std::u16string>& expected)
     return parcel.ReadString16Vector(&values) && values == expected;
 }
 
+// One call on a parcel made from `given` (its bytes, the read position to start from, or the room left): whether it
+// succeeds, and where it leaves the parcel (a read, its read position; a write, the bytes it added).
+template <typename Given>
+struct CallCase {
+    const char* name;
+    Given given;
+    std::function<bool(Parcel&)> call;
+    bool ok;
+    size_t position;
+};
+
+// True when the parcel gave a text: every malformed one reads as empty.
+bool ReadsString(Parcel& parcel)
+{
+    return !parcel.ReadString().empty();
+}
+
+bool ReadsString16(Parcel& parcel)
+{
+    return !parcel.ReadString16().empty();
+}
+
 TEST(ParcelRulesTest, ReadsSayWhetherTheyReadAndWhereTheyLeaveThePosition)
 {
-    const struct {
-        const char* name;
-        std::string hex;
-        std::function<bool(Parcel&)> read;
-        bool ok;
-        size_t position;
-    } cases[] = {
+    const CallCase<std::string> cases[] = {
         {"int32 from three bytes", "010203", [](Parcel& p) { return p.ReadInt32() != 0; }, false, 0},
         {"int64 from one word", "01020304", [](Parcel& p) { return p.ReadInt64() != 0; }, false, 0},
         {"bool from nothing", "", [](Parcel& p) { return p.ReadBool(); }, false, 0},
-        {"string: half a length word", "0100", [](Parcel& p) { return !p.ReadString().empty(); }, false, 0},
-        {"string: the null marker is left behind", "ffffffff", [](Parcel& p) { return !p.ReadString().empty(); }, false,
-         4},
-        {"string: the most negative length is left behind", "00000080",
-         [](Parcel& p) { return !p.ReadString().empty(); }, false, 4},
-        {"string: length INT32_MAX is left behind", "ffffff7f61620000",
-         [](Parcel& p) { return !p.ReadString().empty(); }, false, 4},
-        {"string16: length INT32_MAX is left behind", "ffffff7f61620000",
-         [](Parcel& p) { return !p.ReadString16().empty(); }, false, 4},
-        {"string: a length beyond the data is rewound", "0500000061620000",
-         [](Parcel& p) { return !p.ReadString().empty(); }, false, 0},
-        {"string: no room for the terminator is rewound", "0400000061626364",
-         [](Parcel& p) { return !p.ReadString().empty(); }, false, 0},
-        {"string: a non-zero terminator is rewound", "0200000061626300",
-         [](Parcel& p) { return !p.ReadString().empty(); }, false, 0},
-        {"string16: half a terminator is rewound", "020000006100620000",
-         [](Parcel& p) { return !p.ReadString16().empty(); }, false, 0},
-        {"string16: a non-zero terminator is rewound", "020000006100620063000000",
-         [](Parcel& p) { return !p.ReadString16().empty(); }, false, 0},
+        {"string: half a length word", "0100", ReadsString, false, 0},
+        {"string: the null marker is left behind", "ffffffff", ReadsString, false, 4},
+        {"string: the most negative length is left behind", "00000080", ReadsString, false, 4},
+        {"string: length INT32_MAX is left behind", "ffffff7f61620000", ReadsString, false, 4},
+        {"string16: length INT32_MAX is left behind", "ffffff7f61620000", ReadsString16, false, 4},
+        {"string: a length beyond the data is rewound", "0500000061620000", ReadsString, false, 0},
+        {"string: no room for the terminator is rewound", "0400000061626364", ReadsString, false, 0},
+        {"string: a non-zero terminator is rewound", "0200000061626300", ReadsString, false, 0},
+        {"string16: half a terminator is rewound", "020000006100620000", ReadsString16, false, 0},
+        {"string16: a non-zero terminator is rewound", "020000006100620063000000", ReadsString16, false, 0},
         {"string without its padding ends at the capacity", "010000006100",
          [](Parcel& p) { return p.ReadString() == "a"; }, true, AT_CAPACITY},
         {"buffer beyond the data", "61626364", [](Parcel& p) { return p.ReadBuffer(5) != nullptr; }, false, 0},
@@ -118,8 +125,8 @@ TEST(ParcelRulesTest, ReadsSayWhetherTheyReadAndWhereTheyLeaveThePosition)
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         Parcel parcel;
-        LoadBytes(parcel, BytesFromHex(c.hex));
-        EXPECT_EQ(c.read(parcel), c.ok);
+        LoadBytes(parcel, BytesFromHex(c.given));
+        EXPECT_EQ(c.call(parcel), c.ok);
         EXPECT_EQ(parcel.GetReadPosition(), c.position == AT_CAPACITY ? parcel.GetDataCapacity() : c.position);
     }
 }
@@ -128,13 +135,7 @@ TEST(ParcelRulesTest, ReadsSayWhetherTheyReadAndWhereTheyLeaveThePosition)
 // still moves past the bytes it refused; a buffer or a string stays or is rewound.
 TEST(ParcelRulesTest, PlainReadsMayNotTakeAByteOfAnObjectRecord)
 {
-    const struct {
-        const char* name;
-        size_t from;
-        std::function<bool(Parcel&)> read;
-        bool ok;
-        size_t position;
-    } cases[] = {
+    const CallCase<size_t> cases[] = {
         {"int32 before it", 0, [](Parcel& p) { return p.ReadInt32() == 7; }, true, 4},
         {"int32 on it", 4, [](Parcel& p) { return p.ReadInt32() != 0; }, false, 8},
         {"int64 across its start", 0, [](Parcel& p) { return p.ReadInt64() != 0; }, false, 8},
@@ -142,7 +143,7 @@ TEST(ParcelRulesTest, PlainReadsMayNotTakeAByteOfAnObjectRecord)
         {"int32 after it", 28, [](Parcel& p) { return p.ReadInt32() == 9; }, true, 32},
         {"buffer across it", 0, [](Parcel& p) { return p.ReadBuffer(12) != nullptr; }, false, 0},
         {"empty buffer inside it", 8, [](Parcel& p) { return p.ReadBuffer(0) != nullptr; }, false, 8},
-        {"string whose body runs into it", 0, [](Parcel& p) { return !p.ReadString().empty(); }, false, 0},
+        {"string whose body runs into it", 0, ReadsString, false, 0},
         {"the record itself", 4, [](Parcel& p) { return p.CheckOffsets(); }, true, 4},
         {"no record here", 0, [](Parcel& p) { return p.CheckOffsets(); }, false, 0},
         {"a rewind into it drops it", 4,
@@ -154,8 +155,8 @@ TEST(ParcelRulesTest, PlainReadsMayNotTakeAByteOfAnObjectRecord)
         ASSERT_TRUE(parcel.WriteInt32(7) && parcel.EnsureObjectsCapacity());
         const std::vector<uint8_t> record(24, 0);
         ASSERT_TRUE(parcel.WriteBuffer(record.data(), record.size()) && parcel.WriteObjectOffset(4));
-        ASSERT_TRUE(parcel.WriteInt32(9) && parcel.RewindRead(c.from));
-        EXPECT_EQ(c.read(parcel), c.ok);
+        ASSERT_TRUE(parcel.WriteInt32(9) && parcel.RewindRead(c.given));
+        EXPECT_EQ(c.call(parcel), c.ok);
         EXPECT_EQ(parcel.GetReadPosition(), c.position);
     }
 }
@@ -223,13 +224,7 @@ TEST(ParcelRulesTest, TheCapacityIsSetOnlyAboveTheDataAndAnInt64TakesTheNextTwoW
 
 TEST(ParcelRulesTest, WritesAtTheLimitAreAllOrNothingExceptAStringsLengthWord)
 {
-    const struct {
-        const char* name;
-        size_t room;
-        std::function<bool(Parcel&)> write;
-        bool ok;
-        size_t added;
-    } cases[] = {
+    const CallCase<size_t> cases[] = {
         {"int32 in the last word", 4, [](Parcel& p) { return p.WriteInt32(1); }, true, 4},
         {"bool with no room", 0, [](Parcel& p) { return p.WriteBool(true); }, false, 0},
         {"int64 with one word left", 4, [](Parcel& p) { return p.WriteInt64(1); }, false, 0},
@@ -245,13 +240,13 @@ TEST(ParcelRulesTest, WritesAtTheLimitAreAllOrNothingExceptAStringsLengthWord)
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         Parcel parcel;
-        FillLeaving(parcel, c.room);
+        FillLeaving(parcel, c.given);
         const size_t before = parcel.GetDataSize();
-        EXPECT_EQ(c.write(parcel), c.ok);
-        EXPECT_EQ(parcel.GetDataSize(), before + c.added);
-        EXPECT_EQ(parcel.GetWritePosition(), before + c.added);
+        EXPECT_EQ(c.call(parcel), c.ok);
+        EXPECT_EQ(parcel.GetDataSize(), before + c.position);
+        EXPECT_EQ(parcel.GetWritePosition(), before + c.position);
         // A failed write does not block a later one that fits.
-        if (!c.ok && c.room - c.added >= 4) {
+        if (!c.ok && c.given - c.position >= 4) {
             EXPECT_TRUE(parcel.WriteInt32(7));
         }
     }

@@ -35,10 +35,6 @@ namespace {
 using C = ShareClient;
 constexpr LogLevel D = LOG_DEBUG;
 constexpr LogLevel I = LOG_INFO;
-constexpr int32_t SEND_BEAN = 0x5EB0;
-constexpr int32_t DATA_BEAN = 0xDA7A;
-constexpr int32_t BYTES_INFO = 0xB17E;
-constexpr int32_t DEVICE = 0xDE71;
 // Longer than a parcel's default capacity: its write fails.
 const std::string OVERSIZED(300 * 1024, 'x');
 
@@ -71,6 +67,16 @@ std::vector<LogLine> Lines(LogLevel clientLevel, const std::string& clientEnter,
 std::vector<LogLine> Named(const std::string& name, LogLevel clientLevel = D, LogLevel proxyLevel = D)
 {
     return Lines(clientLevel, name + " Enter", name + " Exit", proxyLevel, name + "() Enter", name + "() Exit");
+}
+
+// The file sends log all four lines under the client's tag: its enter and exit, then the proxy's at debug level.
+std::vector<LogLine> SendFileLines(LogLevel enterLevel, const std::string& clientEnter, const std::string& clientExit,
+                                   const std::string& proxyPrefix)
+{
+    return {{CLIENT_TAG, enterLevel, clientEnter},
+            {CLIENT_TAG, D, clientExit},
+            {CLIENT_TAG, D, proxyPrefix + " enter!"},
+            {CLIENT_TAG, D, proxyPrefix + " exit!"}};
 }
 
 sptr<ShareDevice> Device(int32_t ohFlag, int32_t nearbyVersion)
@@ -119,21 +125,15 @@ const std::vector<Operation>& Operations()
          [](C& c) { return c.UnRegisterReceiveListener(receive); },
          Lines(D, "UnRegisterReceiveListener Enter", "UnRegisterReceiveListener Exit", D,
                "UnRegisterReceiveListener() Enter", "RegisterReceiveListener() Exit")},
-        {7,
-         with(sendParams, SEND_BEAN),
+        {7, with(sendParams, SEND_BEAN),
          [](C& c) { return c.SendFile(param, sendBean, "com.example.share") != nullptr; },
-         {{CLIENT_TAG, I, "send file with send bean enter!"},
-          {CLIENT_TAG, D, "send file with preview info exit!"},
-          {CLIENT_TAG, D, "send file with preview info enter!"},
-          {CLIENT_TAG, D, "send file with preview info exit!"}},
+         SendFileLines(I, "send file with send bean enter!", "send file with preview info exit!",
+                       "send file with preview info"),
          Reply::SENDER},
-        {8,
-         with(sendParams, DATA_BEAN),
+        {8, with(sendParams, DATA_BEAN),
          [](C& c) { return c.SendFile(param, dataBean, "com.example.share") != nullptr; },
-         {{CLIENT_TAG, D, "send file with data bean enter!"},
-          {CLIENT_TAG, D, "send file with send bean exit!"},
-          {CLIENT_TAG, D, "send file with data bean enter!"},
-          {CLIENT_TAG, D, "send file with data bean exit!"}},
+         SendFileLines(D, "send file with data bean enter!", "send file with send bean exit!",
+                       "send file with data bean"),
          Reply::SENDER},
         {10,
          {"peer-device-7", 30000, BYTES_INFO, OBJECT, -3},

@@ -16,25 +16,26 @@
 /*
  * The share service as the client meets it on a device: a scripted stub loaded on demand by the host system
  * ability manager. Every test starts from a client that has no proxy and will load the service at its next
- * Connect, with the log lines of the start cleared, and ends by killing the service so that the next test starts
- * the same way.
+ * Connect, with the log lines of the start cleared.
  */
 #ifndef SHARE_SERVICE_HARNESS_H
 #define SHARE_SERVICE_HARNESS_H
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
-#include "captured_log.h"
 #include "ipc_threads.h"
 #include "iservice_registry.h"
-#include "log_line.h"
 #include "notice_counter.h"
 #include "samgr_host_control.h"
 #include "scripted_stub.h"
+#include "service_client_test.h"
 #include "share_client.h"
 #include "test_remote.h"
 
@@ -80,7 +81,7 @@ inline sptr<IRemoteObject> RunningShareService()
     return SystemAbilityManagerClient::GetInstance().GetSystemAbilityManager()->CheckSystemAbility(SHARE_SERVICE_SA_ID);
 }
 
-class ShareServiceTest : public testing::Test {
+class ShareServiceTest : public ServiceClientTest<ShareClient, SHARE_SERVICE_SA_ID> {
 protected:
     void SetUp() override
     {
@@ -94,15 +95,6 @@ protected:
         log_.Clear();
     }
 
-    void TearDown() override
-    {
-        Client().RegisterDiedCallback(nullptr);
-        SamgrHostControl::KillSystemAbility(SHARE_SERVICE_SA_ID);
-        // Delivers the death notice, so the client has dropped its proxy before the next test.
-        SamgrHostControl::Reset();
-    }
-
-    static ShareClient& Client() { return ShareClient::GetInstance(); }
     static int Loads() { return SamgrHostControl::LoadCount(SHARE_SERVICE_SA_ID); }
 
     size_t Received(uint32_t code) const
@@ -110,11 +102,6 @@ protected:
         const std::vector<uint32_t> codes = stub_->Codes();
         return static_cast<size_t>(std::count(codes.begin(), codes.end(), code));
     }
-
-    size_t Logged(const LogLine& line) const { return Zelkon::Logged(log_, line); }
-
-    sptr<ScriptedStub> stub_;
-    CapturedLog log_;
 };
 
 } // namespace Zelkon

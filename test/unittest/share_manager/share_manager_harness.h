@@ -16,20 +16,18 @@
 /*
  * The share manager service as the client meets it on a device: a scripted stub added to the host system ability
  * manager, so the client talks to it through a remote object. Every test starts from a client without a proxy, with
- * the log lines of the start cleared, and ends by killing the service, whose death notice drops the proxy again
- * before the next test.
+ * the log lines of the start cleared.
  */
 #ifndef SHARE_MANAGER_HARNESS_H
 #define SHARE_MANAGER_HARNESS_H
 
 #include <gtest/gtest.h>
 
-#include "captured_log.h"
 #include "iservice_registry.h"
-#include "log_line.h"
 #include "notice_counter.h"
 #include "samgr_host_control.h"
 #include "scripted_stub.h"
+#include "service_client_test.h"
 #include "share_manager_client.h"
 #include "test_remote.h"
 
@@ -45,21 +43,13 @@ public:
     void OnShareManagerDied() override { Notice(); }
 };
 
-class ShareManagerTest : public testing::Test {
+class ShareManagerTest : public ServiceClientTest<ShareManagerClient, SHARE_MANAGER_SA_ID> {
 protected:
     void SetUp() override
     {
         SamgrHostControl::Reset();
         stub_ = StartService();
         log_.Clear();
-    }
-
-    void TearDown() override
-    {
-        Client().RegisterDiedCallback(nullptr);
-        SamgrHostControl::KillSystemAbility(SHARE_MANAGER_SA_ID);
-        // Delivers the death notice, so the client has dropped its proxy before the next test.
-        SamgrHostControl::Reset();
     }
 
     // Starts a new instance of the service "in another process".
@@ -70,13 +60,6 @@ protected:
         EXPECT_EQ(manager->AddSystemAbility(SHARE_MANAGER_SA_ID, stub), 0);
         return stub;
     }
-
-    static ShareManagerClient& Client() { return ShareManagerClient::GetInstance(); }
-
-    size_t Logged(const LogLine& line) const { return Zelkon::Logged(log_, line); }
-
-    sptr<ScriptedStub> stub_;
-    CapturedLog log_;
 };
 
 } // namespace Zelkon

@@ -34,10 +34,6 @@ namespace {
 using C = ShareManagerClient;
 constexpr LogLevel D = LOG_DEBUG;
 constexpr LogLevel I = LOG_INFO;
-constexpr int32_t DEVICE = 0xDE71;
-constexpr int32_t SEND_BEAN = 0x5EB0;
-constexpr int32_t DATA_BEAN = 0xDA7A;
-constexpr int32_t BYTES_INFO = 0xB17E;
 const char* const NO_PROXY = "shareManagerSrvProxy_ is nullptr";
 
 struct Operation {

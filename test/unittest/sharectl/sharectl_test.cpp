@@ -96,7 +96,7 @@ Outcome RunSharectl(const std::string& arguments, const std::string& input = "")
 
 struct Case {
     const char* name;
-    const char* arguments;
+    std::string arguments;
     const char* input;
     int exitStatus;
     const char* shown;
@@ -138,7 +138,6 @@ constexpr const char* CHANGED_WORLD =
     R"({"users": [{"deviceName": "Zed phone", "deviceId": "dev-9", "avatar": "a", "contactInfo": {"contactName": "Zed"}}]})";
 
 const std::vector<Case> CASES = {
-    {"DefaultSession", "", "", 0, "18 of 18 steps passed"},
     {"SessionReloadsAfterTheKill", "restart", "", 0,
      "[ ok ] reload on the next call: Publish -> 1 (accepted) after 1 new load request(s)"},
     {"List", "list", "", 0, "manager   36  IsFocusPidsRegisterSwing"},
@@ -149,7 +148,6 @@ const std::vector<Case> CASES = {
     {"DescribeListener", "describe UnPublish", "", 0, "    listener  IPublishListener: a local stub"},
     {"DescribeUnknown", "describe Nope", "", 2, "unknown operation 'Nope'"},
     {"SharedNameNeedsItsService", "call Cancel", "", 2, "say which, share.Cancel, manager.Cancel"},
-    {"CallRemoves", "call RemovePermanentDeviceById id=2", "", 0, "RemovePermanentDeviceById -> 1 (accepted)"},
     {"CallRefused", "call RemovePermanentDeviceById id=9", "", 0, "RemovePermanentDeviceById -> 0 (refused"},
     {"CallWithRecords", R"(call share.SendBytes param='{"deviceId":"dev-1"}' bytesInfo='{"bytes":"hi"}')", "", 0,
      R"(share.SendBytes -> {"transfer":1} (the sender of transfer 1))"},
@@ -195,16 +193,7 @@ const std::vector<Case> CASES = {
     {"SendEmptyInput", "send-file -", "", 2, "standard input is empty: there is nothing to send"},
     {"SendInput", "send-file -", "hello", 0, "standard input (5 bytes), the service read 5 bytes"},
     {"FullDevice", "list > /dev/full", "", 1, "cannot write the output: No space left on device"},
-    // Two failed loads: the first use loads once, and a Connect that hears of the failure first asks once more.
-    {"FaultLoadFails", "--fault load-fail:2 call Publish", "", 0, "Publish -> 0 (refused, or the call failed"},
     {"FaultLoadLate", "--fault load-delay:300 call Publish", "", 0, "Load zelkon SA after 200ms"},
-    // The load callback hears the error code; the library does not log it, the platform's callback stub does.
-    {"FaultLoadError", "--log-level info --fault load-error:12 call Publish", "", 0,
-     "system ability 65569 failed to load: 12"},
-    {"FaultDiesInRequest", "--fault die-in:26 call GetPermanentDeviceList", "", 0,
-     "SendRequest is failed, error code: 29189"},
-    {"FaultOversizedReply", "--fault oversized-reply call GetPermanentDeviceList", "", 0,
-     "SendRequest is failed, error code: 29201"},
     {"FaultDiesAfterRequests", "--trace --fault die-after:1 call Publish", "", 0,
      "emulator note: fault = the process died after this reply"},
     {"FaultHostileCount", "--fault hostile-count call GetAllUserList", "", 0, "Read device counter failed 1001"},
@@ -217,20 +206,37 @@ const std::vector<Case> CASES = {
     {"UnknownLogLevel", "--log-level loud", "", 2, "--log-level"},
     {"UnknownCommand", "bogus", "", 2, "bogus"},
     {"Help", "--help", "", 0, "die-in:CODE"},
-    {"ProcessesSession", "--processes", "", 0, "18 of 18 steps passed"},
-    {"ProcessesCall", "--processes call RemovePermanentDeviceById id=2", "", 0,
-     "RemovePermanentDeviceById -> 1 (accepted)"},
-    {"ProcessesFaultInTheServiceProcess", "--processes --fault die-in:26 call GetPermanentDeviceList", "", 0,
-     "SendRequest is failed, error code: 29189"},
     {"ProcessesStallEndedByTheWatchdog", "--processes --fault stall-in:26 call GetPermanentDeviceList", "", 0,
      "SendRequest is failed, error code: 29189"},
-    {"ProcessesOversizedReply", "--processes --fault oversized-reply call GetPermanentDeviceList", "", 0,
-     "SendRequest is failed, error code: 29201"},
-    {"ProcessesFaultInTheManager", "--processes --fault load-fail:2 call Publish", "", 0,
-     "Publish -> 0 (refused, or the call failed"},
-    {"ProcessesFaultLoadError", "--processes --log-level info --fault load-error:12 call Publish", "", 0,
-     "system ability 65569 failed to load: 12"},
 };
+
+// What sharectl does alike with the services in its own process and with each in a process of its own.
+const std::vector<Case> IN_EITHER_WORLD = {
+    {"Session", "", "", 0, "18 of 18 steps passed"},
+    {"CallRemoves", "call RemovePermanentDeviceById id=2", "", 0, "RemovePermanentDeviceById -> 1 (accepted)"},
+    // Two failed loads: the first use loads once, and a Connect that hears of the failure first asks once more.
+    {"FaultLoadFails", "--fault load-fail:2 call Publish", "", 0, "Publish -> 0 (refused, or the call failed"},
+    // The load callback hears the error code; the library does not log it, the platform's callback stub does.
+    {"FaultLoadError", "--log-level info --fault load-error:12 call Publish", "", 0,
+     "system ability 65569 failed to load: 12"},
+    {"FaultDiesInRequest", "--fault die-in:26 call GetPermanentDeviceList", "", 0,
+     "SendRequest is failed, error code: 29189"},
+    {"FaultOversizedReply", "--fault oversized-reply call GetPermanentDeviceList", "", 0,
+     "SendRequest is failed, error code: 29201"},
+};
+
+std::vector<Case> AcrossProcesses(std::vector<Case> cases)
+{
+    for (Case& invocation : cases) {
+        invocation.arguments = "--processes " + invocation.arguments;
+    }
+    return cases;
+}
+
+std::string CaseName(const testing::TestParamInfo<Case>& info)
+{
+    return info.param.name;
+}
 
 class SharectlTest : public testing::TestWithParam<Case> {};
 
@@ -244,8 +250,9 @@ TEST_P(SharectlTest, PrintsWhatItDidAndSaysSoInItsExitStatus)
                                                                   << run.output;
 }
 
-INSTANTIATE_TEST_SUITE_P(Invocations, SharectlTest, testing::ValuesIn(CASES),
-                         [](const testing::TestParamInfo<Case>& info) { return info.param.name; });
+INSTANTIATE_TEST_SUITE_P(Invocations, SharectlTest, testing::ValuesIn(CASES), CaseName);
+INSTANTIATE_TEST_SUITE_P(InProcess, SharectlTest, testing::ValuesIn(IN_EITHER_WORLD), CaseName);
+INSTANTIATE_TEST_SUITE_P(AcrossProcesses, SharectlTest, testing::ValuesIn(AcrossProcesses(IN_EITHER_WORLD)), CaseName);
 
 // What an operation needs before it sends anything: a descriptor for its DataBean, a device that can collaborate.
 const std::map<std::string, std::string> SENDING_ARGUMENTS = {

@@ -45,6 +45,7 @@
 #include "share_client.h"
 #include "share_emulator.h"
 #include "share_manager_client.h"
+#include "world.h"
 
 namespace OHOS {
 namespace Zelkon {
@@ -224,8 +225,6 @@ bool ConnectBoth()
     return share && manager;
 }
 
-enum class World { IN_PROCESS, PROCESSES };
-
 size_t OpenDescriptors()
 {
     return static_cast<size_t>(
@@ -250,7 +249,7 @@ TEST_P(ShareStressTest, CallsSurviveServiceDeathsAndEachDeathIsReportedOnce)
     const World world = GetParam();
     SamgrHostControl::Reset();
     std::unique_ptr<ServicesInProcesses> processes;
-    if (world == World::PROCESSES) {
+    if (world == World::ACROSS_PROCESSES) {
         // A first use of the transport opens what it keeps for the life of the process (its own address).
         processes = std::make_unique<ServicesInProcesses>();
         processes->Enter();
@@ -260,7 +259,7 @@ TEST_P(ShareStressTest, CallsSurviveServiceDeathsAndEachDeathIsReportedOnce)
         ASSERT_TRUE(IpcHostTransport::WaitForPeerGone(samgr, std::chrono::seconds(5)));
     }
     const size_t descriptorsBefore = OpenDescriptors();
-    if (world == World::PROCESSES) {
+    if (world == World::ACROSS_PROCESSES) {
         processes = std::make_unique<ServicesInProcesses>();
         ASSERT_TRUE(processes->Started());
         processes->Enter();
@@ -338,10 +337,7 @@ TEST_P(ShareStressTest, CallsSurviveServiceDeathsAndEachDeathIsReportedOnce)
         << OpenDescriptors() << " descriptors open, " << descriptorsBefore << " before";
 }
 
-INSTANTIATE_TEST_SUITE_P(Worlds, ShareStressTest, testing::Values(World::IN_PROCESS, World::PROCESSES),
-                         [](const testing::TestParamInfo<World>& info) {
-                             return info.param == World::IN_PROCESS ? "InProcess" : "AcrossProcesses";
-                         });
+INSTANTIATE_TEST_SUITE_P(Worlds, ShareStressTest, BOTH_WORLDS, WorldName);
 
 } // namespace
 } // namespace Zelkon
