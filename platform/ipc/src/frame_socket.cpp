@@ -27,6 +27,7 @@
 
 #include "ipc_log.h"
 #include "peer_credentials.h"
+#include "write_all.h"
 
 namespace OHOS {
 namespace {
@@ -77,8 +78,12 @@ bool Bind(int socket, const Address& own, FrameSocket::Namespace space)
     return bound == 0;
 }
 
-UniqueFd NewSocket()
+// A stream socket and the address `name` stands for in `space`; no socket where either cannot be made.
+UniqueFd NewSocketFor(const std::string& name, FrameSocket::Namespace space, Address& address)
 {
+    if (!MakeAddress(name, space, address)) {
+        return UniqueFd();
+    }
     UniqueFd socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
     if (socket < 0) {
         IPC_HOST_LOGE("socket failed, errno %{public}d", errno);
@@ -178,8 +183,7 @@ Result ReadAtLeast(int socket, uint8_t* data, size_t least, size_t most, const F
 bool FrameSocket::Send(int socket, const std::vector<uint8_t>& bytes, const std::vector<int>& fds)
 {
     alignas(cmsghdr) char control[CMSG_SPACE(IpcFrame::MAX_FDS * sizeof(int))];
-    size_t sent = 0;
-    while (sent < bytes.size()) {
+    return WriteAll(bytes.size(), [&](size_t sent) {
         iovec piece{const_cast<uint8_t*>(bytes.data()) + sent, bytes.size() - sent};
         msghdr message{};
         message.msg_iov = &piece;
@@ -194,16 +198,8 @@ bool FrameSocket::Send(int socket, const std::vector<uint8_t>& bytes, const std:
             header->cmsg_len = CMSG_LEN(fds.size() * sizeof(int));
             std::memcpy(CMSG_DATA(header), fds.data(), fds.size() * sizeof(int));
         }
-        const ssize_t count = sendmsg(socket, &message, MSG_NOSIGNAL);
-        if (count < 0 && errno == EINTR) {
-            continue;
-        }
-        if (count <= 0) {
-            return false;
-        }
-        sent += static_cast<size_t>(count);
-    }
-    return true;
+        return sendmsg(socket, &message, MSG_NOSIGNAL);
+    });
 }
 
 FrameSocket::Result FrameSocket::Receive(int socket, Deadline deadline, IpcFrame& frame, bool lastOnSocket)
@@ -263,10 +259,7 @@ FrameSocket::Result FrameSocket::ReceiveRequest(int socket, IpcFrame& frame)
 UniqueFd FrameSocket::Connect(const std::string& address, Namespace space)
 {
     Address target;
-    if (!MakeAddress(address, space, target)) {
-        return UniqueFd();
-    }
-    UniqueFd socket = NewSocket();
+    UniqueFd socket = NewSocketFor(address, space, target);
     if (socket < 0) {
         return socket;
     }
@@ -285,10 +278,7 @@ UniqueFd FrameSocket::Connect(const std::string& address, Namespace space)
 UniqueFd FrameSocket::Listen(const std::string& address, Namespace space)
 {
     Address own;
-    if (!MakeAddress(address, space, own)) {
-        return UniqueFd();
-    }
-    UniqueFd socket = NewSocket();
+    UniqueFd socket = NewSocketFor(address, space, own);
     if (socket < 0) {
         return socket;
     }

@@ -29,6 +29,7 @@
 #include "ipc_log.h"
 #include "ipc_types.h"
 #include "iremote_object.h"
+#include "write_all.h"
 
 namespace OHOS {
 namespace {
@@ -38,22 +39,6 @@ constexpr int32_t WORK_SOURCE = 0;
 constexpr int SENT_BLOCK_SEALS = F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE | F_SEAL_SEAL;
 // What a received block must carry at least: shrunk, it would fault its reader; rewritten, it would change under it.
 constexpr int REQUIRED_BLOCK_SEALS = F_SEAL_SHRINK | F_SEAL_WRITE;
-
-bool WriteWhole(int fd, const void* data, size_t size)
-{
-    const auto* bytes = static_cast<const uint8_t*>(data);
-    for (size_t written = 0; written < size;) {
-        const ssize_t result = pwrite(fd, bytes + written, size - written, static_cast<off_t>(written));
-        if (result < 0 && errno == EINTR) {
-            continue;
-        }
-        if (result <= 0) {
-            return false;
-        }
-        written += static_cast<size_t>(result);
-    }
-    return true;
-}
 
 uint32_t RecordTypeAt(const uint8_t* data, size_t offset)
 {
@@ -250,7 +235,11 @@ bool MessageParcel::WriteSharedMemoryBlock(const void* data, size_t size)
     }
     // Written through the descriptor: a writable mapping would have the kernel zero, map and unmap every page
     // on top of the one copy.
-    if (!WriteWhole(fd, data, size)) {
+    const auto* bytes = static_cast<const uint8_t*>(data);
+    const auto writeFrom = [fd, bytes, size](size_t written) {
+        return pwrite(fd, bytes + written, size - written, static_cast<off_t>(written));
+    };
+    if (!WriteAll(size, writeFrom)) {
         IPC_HOST_LOGE("writing %{public}zu bytes of raw data failed, errno %{public}d", size, errno);
         close(fd);
         return false;

@@ -42,9 +42,18 @@ unsigned int Permissions(mode_t mode)
     return static_cast<unsigned int>(mode & (S_IRWXU | S_IRWXG | S_IRWXO | S_ISVTX));
 }
 
-bool Trusted(uid_t owner)
+enum class Owners { USER, USER_OR_ROOT };
+
+// Refuses `path` unless `owners` admit its owner; `kind` ("" or "the socket ") says what it is in the log.
+bool OwnedBy(Owners owners, const char* kind, const std::string& path, uid_t owner)
 {
-    return owner == getuid() || owner == ROOT_UID;
+    if (owner == getuid() || (owners == Owners::USER_OR_ROOT && owner == ROOT_UID)) {
+        return true;
+    }
+    IPC_HOST_LOGE(
+        "%{public}s%{public}s belongs to uid %{public}u, not to this user (uid %{public}u)%{public}s: refused", kind,
+        path.c_str(), Uid(owner), Uid(getuid()), owners == Owners::USER_OR_ROOT ? " or root" : "");
+    return false;
 }
 
 std::string DirectoryOf(const std::string& path)
@@ -68,9 +77,7 @@ bool PrivateDirectory(const std::string& directory)
         IPC_HOST_LOGE("%{public}s is not a directory: refused", directory.c_str());
         return false;
     }
-    if (status.st_uid != getuid()) {
-        IPC_HOST_LOGE("%{public}s belongs to uid %{public}u, not to this user (uid %{public}u): refused",
-                      directory.c_str(), Uid(status.st_uid), Uid(getuid()));
+    if (!OwnedBy(Owners::USER, "", directory, status.st_uid)) {
         return false;
     }
     if ((status.st_mode & (S_IRWXG | S_IRWXO)) != 0) {
@@ -89,9 +96,7 @@ bool TrustedDirectory(const std::string& directory)
         IPC_HOST_LOGE("%{public}s is not a directory: refused", directory.c_str());
         return false;
     }
-    if (!Trusted(status.st_uid)) {
-        IPC_HOST_LOGE("%{public}s belongs to uid %{public}u, not to this user (uid %{public}u) or root: refused",
-                      directory.c_str(), Uid(status.st_uid), Uid(getuid()));
+    if (!OwnedBy(Owners::USER_OR_ROOT, "", directory, status.st_uid)) {
         return false;
     }
     if ((status.st_mode & OTHERS_WRITE) != 0 && (status.st_mode & S_ISVTX) == 0) {
@@ -158,10 +163,7 @@ bool UserRuntimeDirectory::MayConnect(const std::string& path)
         IPC_HOST_LOGE("%{public}s is not a socket: refused", path.c_str());
         return false;
     }
-    if (!Trusted(status.st_uid)) {
-        IPC_HOST_LOGE("the socket %{public}s belongs to uid %{public}u, not to this user (uid %{public}u) or root: "
-                      "refused",
-                      path.c_str(), Uid(status.st_uid), Uid(getuid()));
+    if (!OwnedBy(Owners::USER_OR_ROOT, "the socket ", path, status.st_uid)) {
         return false;
     }
     if ((status.st_mode & OTHERS_WRITE) != 0) {
@@ -189,12 +191,7 @@ bool UserRuntimeDirectory::MayBind(const std::string& path)
         IPC_HOST_LOGE("%{public}s exists and is not a socket: refused", path.c_str());
         return false;
     }
-    if (status.st_uid != getuid()) {
-        IPC_HOST_LOGE("the socket %{public}s belongs to uid %{public}u, not to this user (uid %{public}u): refused",
-                      path.c_str(), Uid(status.st_uid), Uid(getuid()));
-        return false;
-    }
-    return true;
+    return OwnedBy(Owners::USER, "the socket ", path, status.st_uid);
 }
 
 } // namespace OHOS

@@ -29,6 +29,7 @@
 #include <unistd.h>
 
 #include "samgr_log.h"
+#include "write_all.h"
 
 extern char** environ;
 
@@ -168,17 +169,9 @@ bool ChildProcess::Release(const std::vector<std::string>& argv)
     if (Ended() || message.size() > MAX_HELD_COMMAND_LINE) {
         return false;
     }
-    for (size_t written = 0; written < message.size();) {
-        const ssize_t count = send(lifeline_, message.data() + written, message.size() - written, MSG_NOSIGNAL);
-        if (count < 0 && errno == EINTR) {
-            continue;
-        }
-        if (count <= 0) {
-            return false;
-        }
-        written += static_cast<size_t>(count);
-    }
-    return true;
+    return WriteAll(message.size(), [this, &message](size_t written) {
+        return send(lifeline_, message.data() + written, message.size() - written, MSG_NOSIGNAL);
+    });
 }
 
 void ChildProcess::Kill()
