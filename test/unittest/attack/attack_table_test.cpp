@@ -76,6 +76,7 @@
 
 namespace OHOS {
 namespace {
+using Zelkon::BlockedInPipeWrite;
 using Zelkon::CapturedLog;
 using Zelkon::ChildrenOf;
 using Zelkon::Eventually;
@@ -336,11 +337,7 @@ bool SharectlKilledLeavesNothing(const Scene& scene)
         _exit(127);
     }
     close(out[1]);
-    const bool blocked = Eventually([sharectl] {
-        std::ifstream syscall("/proc/" + std::to_string(sharectl) + "/syscall");
-        long number = -1;
-        return static_cast<bool>(syscall >> number) && number == SYS_write;
-    });
+    const bool blocked = Eventually([sharectl] { return BlockedInPipeWrite(sharectl); }, std::chrono::seconds(10));
     const std::vector<std::string> served = FilesIn(scene.privateDirectory);
     std::vector<pid_t> started = ChildrenOf(sharectl);
     for (pid_t serve : ChildrenOf(sharectl)) {

@@ -67,14 +67,23 @@ inline bool Gone(pid_t pid)
     return end == std::string::npos || line.compare(end, 3, ") Z") == 0;
 }
 
-// Polls `done` for up to two seconds.
-inline bool Eventually(const std::function<bool()>& done)
+// Polls `done` for up to `limit`.
+inline bool Eventually(const std::function<bool()>& done, std::chrono::milliseconds limit = std::chrono::seconds(2))
 {
-    constexpr int POLLS = 200;
-    for (int poll = 0; poll < POLLS && !done(); ++poll) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    constexpr std::chrono::milliseconds POLL{10};
+    for (std::chrono::milliseconds waited{0}; waited < limit && !done(); waited += POLL) {
+        std::this_thread::sleep_for(POLL);
     }
     return done();
+}
+
+// The process sleeps in the kernel's write to a full pipe. Asked of its wait channel, not of its system call number,
+// which is the host's, not the test's, when a 32-bit build runs under an emulator.
+inline bool BlockedInPipeWrite(pid_t pid)
+{
+    std::ifstream channel("/proc/" + std::to_string(pid) + "/wchan");
+    std::string function;
+    return static_cast<bool>(channel >> function) && function.find("pipe_write") != std::string::npos;
 }
 
 } // namespace Zelkon

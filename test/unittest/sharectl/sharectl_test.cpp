@@ -48,6 +48,7 @@
 
 namespace {
 
+using OHOS::Zelkon::BlockedInPipeWrite;
 using OHOS::Zelkon::ChildrenOf;
 using OHOS::Zelkon::Eventually;
 using OHOS::Zelkon::Gone;
@@ -501,17 +502,9 @@ TEST_P(SharectlSignalTest, InASessionInProcessesLeavesNoTemporaryFileNoSocketAnd
         _exit(127);
     }
     close(out[1]);
-    // Its main thread sleeps in the kernel's pipe write, and stays there. (Asked of the wait channel, not of the
-    // system call number, which is the host's, not the test's, when a 32-bit build runs under an emulator.)
-    const auto blocked = [child] {
-        std::ifstream channel("/proc/" + std::to_string(child) + "/wchan");
-        std::string function;
-        return static_cast<bool>(channel >> function) && function.find("pipe_write") != std::string::npos;
-    };
-    for (int polls = 0; !blocked() && polls < 1000; ++polls) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
-    ASSERT_TRUE(blocked()) << "sharectl does not wait to write";
+    // Its main thread sleeps in the kernel's pipe write, and stays there; a start under an emulator takes seconds.
+    ASSERT_TRUE(Eventually([child] { return BlockedInPipeWrite(child); }, std::chrono::seconds(10)))
+        << "sharectl does not wait to write";
     std::vector<pid_t> started;
     for (pid_t serve : ChildrenOf(child)) {
         started.push_back(serve);
