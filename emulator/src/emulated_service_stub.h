@@ -27,6 +27,7 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -66,12 +67,18 @@ protected:
     // Decodes the request's fields; changes state and writes the reply only once all of them were read.
     using Handler = std::function<void(RequestReader&, ReplyWriter&)>;
 
+    void Add(uint32_t code, const char* operation, Handler handle)
+    {
+        operations_[code] = {operation, std::move(handle)};
+    }
+
+    // A handler that needs the service itself: its faults or its list replies.
     template <typename Stub>
     void Add(uint32_t code, const char* operation, void (Stub::*handle)(RequestReader&, ReplyWriter&))
     {
-        operations_[code] = {operation, [this, handle](RequestReader& reader, ReplyWriter& writer) {
-                                 (static_cast<Stub*>(this)->*handle)(reader, writer);
-                             }};
+        Add(code, operation, [this, handle](RequestReader& reader, ReplyWriter& writer) {
+            (static_cast<Stub*>(this)->*handle)(reader, writer);
+        });
     }
 
     virtual nlohmann::ordered_json DumpState() = 0;

@@ -40,6 +40,8 @@ bool ReadSendBean(RequestReader& reader, TransferPayload& payload);
 // The descriptor is read to its end, so the payload holds the file's real size.
 bool ReadDataBean(RequestReader& reader, TransferPayload& payload);
 bool ReadBytesInfo(RequestReader& reader, TransferPayload& payload);
+// The readers of the beans that a transfer request carries, for the handlers that differ in their bean alone.
+using BeanReader = bool (*)(RequestReader& reader, TransferPayload& payload);
 bool ReadCommonShareObject(RequestReader& reader, std::string& networkId, TransferPayload& payload);
 
 } // namespace Zelkon

@@ -15,13 +15,15 @@
 
 /*
  * The caller objects that an emulated service keeps per kind (listeners, callbacks). Keyed by the object, which
- * stays the same while the caller's listener lives. Not locked: the owning state locks around it.
+ * stays the same while the caller's listener lives. Each operation is atomic under the registry's own lock, which a
+ * state may take while it holds its own (never the other way round).
  */
 #ifndef REMOTE_REGISTRY_H
 #define REMOTE_REGISTRY_H
 
 #include <cstddef>
 #include <map>
+#include <mutex>
 
 #include "iremote_object.h"
 
@@ -34,21 +36,37 @@ public:
     // False when the object was already registered for the kind.
     bool Add(Kind kind, const sptr<IRemoteObject>& object)
     {
+        std::lock_guard<std::mutex> lock(mutex_);
         return objects_[kind].emplace(object.GetRefPtr(), object).second;
     }
-    bool Remove(Kind kind, const sptr<IRemoteObject>& object) { return objects_[kind].erase(object.GetRefPtr()) > 0; }
-    bool Contains(Kind kind, const sptr<IRemoteObject>& object) { return objects_[kind].count(object.GetRefPtr()) > 0; }
+    // False when the object was not registered for the kind.
+    bool Remove(Kind kind, const sptr<IRemoteObject>& object)
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        return objects_[kind].erase(object.GetRefPtr()) > 0;
+    }
+    bool Contains(Kind kind, const sptr<IRemoteObject>& object)
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        return objects_[kind].count(object.GetRefPtr()) > 0;
+    }
     // False when there was nothing to clear.
     bool Clear(Kind kind)
     {
+        std::lock_guard<std::mutex> lock(mutex_);
         auto& registered = objects_[kind];
         const bool hadAny = !registered.empty();
         registered.clear();
         return hadAny;
     }
-    size_t Count(Kind kind) { return objects_[kind].size(); }
+    size_t Count(Kind kind)
+    {
+        std::lock_guard<std::mutex> lock(mutex_);
+        return objects_[kind].size();
+    }
 
 private:
+    std::mutex mutex_;
     std::map<Kind, std::map<IRemoteObject*, sptr<IRemoteObject>>> objects_;
 };
 

@@ -43,58 +43,9 @@ void RequestReader::Decoded(const char* field, const std::string& value)
     decoded_.fields.emplace_back(prefix_ + field, value);
 }
 
-bool RequestReader::Int32(const char* field, int32_t& value)
+std::string RequestReader::Text(const std::string& value)
 {
-    if (failed_ || !data_.ReadInt32(value)) {
-        return Fail(field, "truncated");
-    }
-    Decoded(field, std::to_string(value));
-    return true;
-}
-
-bool RequestReader::Uint32(const char* field, uint32_t& value)
-{
-    if (failed_ || !data_.ReadUint32(value)) {
-        return Fail(field, "truncated");
-    }
-    Decoded(field, std::to_string(value));
-    return true;
-}
-
-bool RequestReader::Int64(const char* field, int64_t& value)
-{
-    if (failed_ || !data_.ReadInt64(value)) {
-        return Fail(field, "truncated");
-    }
-    Decoded(field, std::to_string(value));
-    return true;
-}
-
-bool RequestReader::Int8(const char* field, int8_t& value)
-{
-    if (failed_ || !data_.ReadInt8(value)) {
-        return Fail(field, "truncated");
-    }
-    Decoded(field, std::to_string(value));
-    return true;
-}
-
-bool RequestReader::Bool(const char* field, bool& value)
-{
-    if (failed_ || !data_.ReadBool(value)) {
-        return Fail(field, "truncated");
-    }
-    Decoded(field, value ? "true" : "false");
-    return true;
-}
-
-bool RequestReader::String(const char* field, std::string& value)
-{
-    if (failed_ || !data_.ReadString(value)) {
-        return Fail(field, "truncated");
-    }
-    Decoded(field, QuotedText(value));
-    return true;
+    return QuotedText(value);
 }
 
 bool RequestReader::RemoteObject(const char* field, sptr<IRemoteObject>& object)

@@ -25,6 +25,7 @@
 
 #include "decoded_request.h"
 #include "message_parcel.h"
+#include "parcel.h"
 #include "unique_fd.h"
 
 namespace OHOS {
@@ -34,12 +35,12 @@ class RequestReader {
 public:
     RequestReader(MessageParcel& data, DecodedRequest& decoded) : data_(data), decoded_(decoded) {}
 
-    bool Int32(const char* field, int32_t& value);
-    bool Uint32(const char* field, uint32_t& value);
-    bool Int64(const char* field, int64_t& value);
-    bool Int8(const char* field, int8_t& value);
-    bool Bool(const char* field, bool& value);
-    bool String(const char* field, std::string& value);
+    bool Int32(const char* field, int32_t& value) { return Primitive(field, value, &Parcel::ReadInt32); }
+    bool Uint32(const char* field, uint32_t& value) { return Primitive(field, value, &Parcel::ReadUint32); }
+    bool Int64(const char* field, int64_t& value) { return Primitive(field, value, &Parcel::ReadInt64); }
+    bool Int8(const char* field, int8_t& value) { return Primitive(field, value, &Parcel::ReadInt8); }
+    bool Bool(const char* field, bool& value) { return Primitive(field, value, &Parcel::ReadBool); }
+    bool String(const char* field, std::string& value) { return Primitive(field, value, &Parcel::ReadString); }
     bool RemoteObject(const char* field, sptr<IRemoteObject>& object);
     bool FileDescriptor(const char* field, UniqueFd& fd);
     // A uint32 size word (length plus one) and a raw block ending in a zero byte; a size above maxSize is hostile.
@@ -55,6 +56,24 @@ public:
     bool Failed() const { return failed_; }
 
 private:
+    // A value the parcel reads in one step, noted as its text.
+    template <typename Value>
+    bool Primitive(const char* field, Value& value, bool (Parcel::*read)(Value&))
+    {
+        if (failed_ || !(data_.*read)(value)) {
+            return Fail(field, "truncated");
+        }
+        Decoded(field, Text(value));
+        return true;
+    }
+    static std::string Text(bool value) { return value ? "true" : "false"; }
+    static std::string Text(const std::string& value);
+    template <typename Integer>
+    static std::string Text(Integer value)
+    {
+        return std::to_string(value);
+    }
+
     bool Fail(const char* field, const char* what);
     void Decoded(const char* field, const std::string& value);
 

@@ -58,24 +58,6 @@ int32_t ShareManagerState::EnableState()
     return switch_.state;
 }
 
-bool ShareManagerState::AddCallback(CallbackKind kind, const sptr<IRemoteObject>& callback)
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    return callbacks_.Add(kind, callback);
-}
-
-bool ShareManagerState::RemoveCallback(CallbackKind kind, const sptr<IRemoteObject>& callback)
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    return callbacks_.Remove(kind, callback);
-}
-
-bool ShareManagerState::HasCallbacks(CallbackKind kind)
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    return callbacks_.Count(kind) > 0;
-}
-
 bool ShareManagerState::SetDiscovering(bool discovering)
 {
     std::lock_guard<std::mutex> lock(mutex_);

@@ -16,7 +16,7 @@
 /*
  * What the emulated share manager service knows: the sharing switch, the users nearby and those being sent to,
  * registered callbacks and subscriptions, the preview data and the account. Every operation is atomic under one
- * lock.
+ * lock; the callbacks are a registry with a lock of its own.
  */
 #ifndef SHARE_MANAGER_STATE_H
 #define SHARE_MANAGER_STATE_H
@@ -49,10 +49,7 @@ public:
     bool IsEnabled();
     int32_t EnableState();
 
-    // False when the callback was already there (add) or was not there (remove).
-    bool AddCallback(CallbackKind kind, const sptr<IRemoteObject>& callback);
-    bool RemoveCallback(CallbackKind kind, const sptr<IRemoteObject>& callback);
-    bool HasCallbacks(CallbackKind kind);
+    RemoteRegistry<CallbackKind>& Callbacks() { return callbacks_; }
 
     // False when the flag already had that value.
     bool SetDiscovering(bool discovering);

@@ -15,57 +15,27 @@
 
 /*
  * The emulated share manager service (IWidgetService): decodes request codes 1 to 36 from the request layouts and
- * answers from its state.
+ * answers from its state. Requests that need the state alone are handled by free functions given the state; those that
+ * need the service's faults or list replies are the service's own.
  */
 #ifndef SHARE_MANAGER_STUB_H
 #define SHARE_MANAGER_STUB_H
 
-#include "emulated_service_stub.h"
 #include "share_manager_state.h"
+#include "stateful_service_stub.h"
 
 namespace OHOS {
 namespace Zelkon {
 
-class ShareManagerStub : public EmulatedServiceStub {
+class ShareManagerStub : public StatefulServiceStub<ShareManagerState> {
 public:
     ShareManagerStub(ServiceChannels channels, const EmulatedWorld& world);
 
 private:
-    using CallbackKind = ShareManagerState::CallbackKind;
-
-    void OnSetShareEnable(RequestReader& reader, ReplyWriter& writer);
-    void OnSetShareEnableWithConfirm(RequestReader& reader, ReplyWriter& writer);
-    void OnIsEnabled(RequestReader& reader, ReplyWriter& writer);
-    void OnGetEnableState(RequestReader& reader, ReplyWriter& writer);
-    void OnIsFocusPidsRegisterSwing(RequestReader& reader, ReplyWriter& writer);
-    template <CallbackKind KIND, bool ADD>
-    void OnCallback(RequestReader& reader, ReplyWriter& writer);
-    template <bool DISCOVER>
-    void OnDiscovery(RequestReader& reader, ReplyWriter& writer);
-    template <bool CONNECT>
-    void OnConnect(RequestReader& reader, ReplyWriter& writer);
     template <bool SENDING_ONLY>
     void OnUserList(RequestReader& reader, ReplyWriter& writer);
-    void OnPrepareSend(RequestReader& reader, ReplyWriter& writer);
-    void OnSend(RequestReader& reader, ReplyWriter& writer);
-    void OnSendFile(RequestReader& reader, ReplyWriter& writer);
-    void OnSendBytes(RequestReader& reader, ReplyWriter& writer);
-    void OnCancel(RequestReader& reader, ReplyWriter& writer);
-    void OnGetReceiverActionCallback(RequestReader& reader, ReplyWriter& writer);
     void OnGetPreviewData(RequestReader& reader, ReplyWriter& writer);
     void OnGetAccountInfo(RequestReader& reader, ReplyWriter& writer);
-    void OnSetShareAccountPermission(RequestReader& reader, ReplyWriter& writer);
-    template <bool ADD>
-    void OnVxShareApiEvent(RequestReader& reader, ReplyWriter& writer);
-    template <bool ADD>
-    void OnShareEventCallback(RequestReader& reader, ReplyWriter& writer);
-    // NotifyInfo and SwingConfirm: a device and an integer, answered by whether the device is known.
-    void OnDeviceWithValue(RequestReader& reader, ReplyWriter& writer);
-    // ApplyUriPermission and IsAppForeground: a package name, accepted when not empty.
-    void OnPackageName(RequestReader& reader, ReplyWriter& writer);
-    nlohmann::ordered_json DumpState() override;
-
-    ShareManagerState state_;
 };
 
 } // namespace Zelkon

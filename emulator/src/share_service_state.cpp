@@ -38,30 +38,6 @@ ShareServiceState::ShareServiceState(std::vector<PermanentEntry> permanentDevice
 {
 }
 
-bool ShareServiceState::AddListener(ListenerKind kind, const sptr<IRemoteObject>& listener)
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    return listeners_.Add(kind, listener);
-}
-
-bool ShareServiceState::RemoveListener(ListenerKind kind, const sptr<IRemoteObject>& listener)
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    return listeners_.Remove(kind, listener);
-}
-
-bool ShareServiceState::ClearListeners(ListenerKind kind)
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    return listeners_.Clear(kind);
-}
-
-size_t ShareServiceState::ListenerCount(ListenerKind kind)
-{
-    std::lock_guard<std::mutex> lock(mutex_);
-    return listeners_.Count(kind);
-}
-
 bool ShareServiceState::AddFoundDevice(const FoundDevice& device, const sptr<IRemoteObject>& listener)
 {
     std::lock_guard<std::mutex> lock(mutex_);

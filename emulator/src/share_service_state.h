@@ -15,7 +15,8 @@
 
 /*
  * What one process of the emulated share service knows: its listeners, the devices discovery reported, its
- * transfers and the permanent devices. Every operation is atomic under one lock.
+ * transfers and the permanent devices. Every operation is atomic under one lock; the listeners are a registry with
+ * a lock of its own.
  */
 #ifndef SHARE_SERVICE_STATE_H
 #define SHARE_SERVICE_STATE_H
@@ -42,12 +43,8 @@ public:
 
     explicit ShareServiceState(std::vector<PermanentEntry> permanentDevices);
 
-    // False when the listener was already there (add) or was not there (remove).
-    bool AddListener(ListenerKind kind, const sptr<IRemoteObject>& listener);
-    bool RemoveListener(ListenerKind kind, const sptr<IRemoteObject>& listener);
-    // The common receive listener is one slot; unregistering empties it.
-    bool ClearListeners(ListenerKind kind);
-    size_t ListenerCount(ListenerKind kind);
+    // The common receive listener is one slot: unregistering it clears its kind.
+    RemoteRegistry<ListenerKind>& Listeners() { return listeners_; }
 
     // Refused from a caller that has not subscribed.
     bool AddFoundDevice(const FoundDevice& device, const sptr<IRemoteObject>& listener);

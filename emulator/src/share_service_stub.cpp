@@ -15,6 +15,8 @@
 
 #include "share_service_stub.h"
 
+#include <string>
+
 #include "emulator_log.h"
 #include "handle_stub.h"
 #include "record_codec.h"
@@ -22,77 +24,39 @@
 
 namespace OHOS {
 namespace Zelkon {
+namespace {
+using ListenerKind = ShareServiceState::ListenerKind;
 
-template <ShareServiceStub::ListenerKind KIND>
-void ShareServiceStub::OnAddListener(RequestReader& reader, ReplyWriter& writer)
+template <ListenerKind KIND>
+void OnAddListener(ShareServiceState& state, RequestReader& reader, ReplyWriter& writer)
 {
     sptr<IRemoteObject> listener;
     if (reader.RemoteObject("listener", listener)) {
-        writer.Bool("result", state_.AddListener(KIND, listener));
+        writer.Bool("result", state.Listeners().Add(KIND, listener));
     }
 }
 
-template <ShareServiceStub::ListenerKind KIND>
-void ShareServiceStub::OnRemoveListener(RequestReader& reader, ReplyWriter& writer)
+template <ListenerKind KIND>
+void OnRemoveListener(ShareServiceState& state, RequestReader& reader, ReplyWriter& writer)
 {
     sptr<IRemoteObject> listener;
     if (reader.RemoteObject("listener", listener)) {
-        writer.Bool("result", state_.RemoveListener(KIND, listener));
+        writer.Bool("result", state.Listeners().Remove(KIND, listener));
     }
 }
 
-template <ShareServiceStub::ListenerKind KIND>
-void ShareServiceStub::OnRemoveListenerById(RequestReader& reader, ReplyWriter& writer)
+template <ListenerKind KIND>
+void OnRemoveListenerById(ShareServiceState& state, RequestReader& reader, ReplyWriter& writer)
 {
     int32_t id = 0;
     sptr<IRemoteObject> listener;
     if (reader.Int32("id", id) && reader.RemoteObject("listener", listener)) {
-        writer.Bool("result", state_.RemoveListener(KIND, listener));
+        writer.Bool("result", state.Listeners().Remove(KIND, listener));
     }
 }
 
-template <bool SUSPEND>
-void ShareServiceStub::OnWifiScanning(RequestReader& reader, ReplyWriter& writer)
-{
-    std::string ifName;
-    if (reader.String("ifName", ifName)) {
-        writer.Bool("result", state_.SetWifiScanning(ifName, SUSPEND));
-    }
-}
-
-ShareServiceStub::ShareServiceStub(ServiceChannels channels, std::vector<PermanentEntry> permanentDevices) :
-    EmulatedServiceStub(SHARE_SERVICE_TOKEN, "ShareService", EMULATED_SHARE_SERVICE_ID, std::move(channels)),
-    state_(std::move(permanentDevices))
-{
-    Add(1, "PublishDevice", &ShareServiceStub::OnAddListener<ListenerKind::PUBLISH>);
-    Add(2, "UnPublishDevice", &ShareServiceStub::OnRemoveListenerById<ListenerKind::PUBLISH>);
-    Add(3, "SubscribeDevice", &ShareServiceStub::OnAddListener<ListenerKind::SUBSCRIBE>);
-    Add(4, "UnSubscribeDevice", &ShareServiceStub::OnRemoveListenerById<ListenerKind::SUBSCRIBE>);
-    Add(5, "RegisterReceiveListener", &ShareServiceStub::OnAddListener<ListenerKind::RECEIVE>);
-    Add(6, "UnRegisterReceiveListener", &ShareServiceStub::OnRemoveListener<ListenerKind::RECEIVE>);
-    Add(7, "SendFile(SendBean)", &ShareServiceStub::OnSendFileWithSendBean);
-    Add(8, "SendFile(DataBean)", &ShareServiceStub::OnSendFileWithDataBean);
-    Add(10, "SendBytes", &ShareServiceStub::OnSendBytes);
-    Add(11, "EnableDiscoveryPolicy", &ShareServiceStub::OnEnableDiscoveryPolicy);
-    Add(12, "SetAccountPermission", &ShareServiceStub::OnSetAccountPermission);
-    Add(13, "Cancel", &ShareServiceStub::OnCancel);
-    Add(14, "CommonShareSend", &ShareServiceStub::OnCommonShareSend);
-    Add(15, "RegisterCommonReceiveListener", &ShareServiceStub::OnAddListener<ListenerKind::COMMON_RECEIVE>);
-    Add(16, "UnRegisterCommonReceiveListener", &ShareServiceStub::OnUnRegisterCommonReceiveListener);
-    Add(17, "SuspendWifiScanning", &ShareServiceStub::OnWifiScanning<true>);
-    Add(18, "ResumeWifiScanning", &ShareServiceStub::OnWifiScanning<false>);
-    Add(19, "OnCollabDeviceFound", &ShareServiceStub::OnCollabDeviceFound);
-    Add(20, "ClearDiscovererFlag", &ShareServiceStub::OnClearDiscovererFlag);
-    Add(21, "GetPontalPublishInfo", &ShareServiceStub::OnGetPontalPublishInfo);
-    Add(22, "SwingSubscribe", &ShareServiceStub::OnAddListener<ListenerKind::SWING>);
-    Add(23, "SwingUnSubscribe", &ShareServiceStub::OnRemoveListener<ListenerKind::SWING>);
-    Add(24, "ReportSwingEvent", &ShareServiceStub::OnReportSwingEvent);
-    Add(25, "ApplyUriPermission", &ShareServiceStub::OnApplyUriPermission);
-    Add(26, "GetPermanentDeviceList", &ShareServiceStub::OnGetPermanentDeviceList);
-    Add(27, "RemovePermanentDeviceById", &ShareServiceStub::OnRemovePermanentDeviceById);
-}
-
-bool ShareServiceStub::ReadSendParams(RequestReader& reader, std::string& deviceId)
+// deviceId, timeout, callback, package name and event type, as the two file transfers carry them.
+bool ReadSendParams(RequestReader& reader, std::string& deviceId)
 {
     int32_t timeout = 0;
     sptr<IRemoteObject> callback;
@@ -103,33 +67,27 @@ bool ShareServiceStub::ReadSendParams(RequestReader& reader, std::string& device
            reader.Int8("transmitEventType", eventType);
 }
 
-void ShareServiceStub::AnswerSender(ReplyWriter& writer, const std::string& deviceId, const TransferPayload& payload)
+void AnswerSender(ShareServiceState& state, ReplyWriter& writer, const std::string& deviceId,
+                  const TransferPayload& payload)
 {
-    const int32_t id = state_.StartTransfer(deviceId, payload);
+    const int32_t id = state.StartTransfer(deviceId, payload);
     EMULATOR_LOGI("transfer %{public}d to %{public}s: %{public}u files, %{public}llu bytes", id, deviceId.c_str(),
                   payload.files, static_cast<unsigned long long>(payload.bytes));
     writer.RemoteObject("sender", new HandleStub(SENDER_TOKEN, id));
 }
 
-void ShareServiceStub::OnSendFileWithSendBean(RequestReader& reader, ReplyWriter& writer)
+// The two SendFile requests, which differ in their bean alone.
+template <BeanReader READ_BEAN>
+void OnSendFile(ShareServiceState& state, RequestReader& reader, ReplyWriter& writer)
 {
     std::string deviceId;
     TransferPayload payload;
-    if (ReadSendParams(reader, deviceId) && ReadSendBean(reader, payload)) {
-        AnswerSender(writer, deviceId, payload);
+    if (ReadSendParams(reader, deviceId) && READ_BEAN(reader, payload)) {
+        AnswerSender(state, writer, deviceId, payload);
     }
 }
 
-void ShareServiceStub::OnSendFileWithDataBean(RequestReader& reader, ReplyWriter& writer)
-{
-    std::string deviceId;
-    TransferPayload payload;
-    if (ReadSendParams(reader, deviceId) && ReadDataBean(reader, payload)) {
-        AnswerSender(writer, deviceId, payload);
-    }
-}
-
-void ShareServiceStub::OnSendBytes(RequestReader& reader, ReplyWriter& writer)
+void OnSendBytes(ShareServiceState& state, RequestReader& reader, ReplyWriter& writer)
 {
     std::string deviceId;
     int32_t timeout = 0;
@@ -138,82 +96,70 @@ void ShareServiceStub::OnSendBytes(RequestReader& reader, ReplyWriter& writer)
     int8_t eventType = 0;
     if (reader.String("deviceId", deviceId) && reader.Int32("timeout", timeout) && ReadBytesInfo(reader, payload) &&
         reader.RemoteObject("transCallback", callback) && reader.Int8("transmitEventType", eventType)) {
-        AnswerSender(writer, deviceId, payload);
+        AnswerSender(state, writer, deviceId, payload);
     }
 }
 
-void ShareServiceStub::OnCommonShareSend(RequestReader& reader, ReplyWriter& writer)
+void OnCommonShareSend(ShareServiceState& state, RequestReader& reader, ReplyWriter& writer)
 {
     std::string networkId;
     TransferPayload payload;
     sptr<IRemoteObject> callback;
     if (ReadCommonShareObject(reader, networkId, payload) && reader.RemoteObject("transCallback", callback)) {
-        AnswerSender(writer, networkId, payload);
+        AnswerSender(state, writer, networkId, payload);
     }
 }
 
-void ShareServiceStub::OnCancel(RequestReader& reader, ReplyWriter& writer)
+void OnCancel(ShareServiceState& state, RequestReader& reader, ReplyWriter&)
 {
-    (void)writer;
     std::string networkId;
     if (reader.String("networkId", networkId)) {
-        reader.Note("cancelled", std::to_string(state_.CancelTransfers(networkId)));
+        reader.Note("cancelled", std::to_string(state.CancelTransfers(networkId)));
     }
 }
 
-void ShareServiceStub::OnEnableDiscoveryPolicy(RequestReader& reader, ReplyWriter& writer)
+void OnUnRegisterCommonReceiveListener(ShareServiceState& state, RequestReader&, ReplyWriter& writer)
 {
-    int32_t policy = 0;
-    if (reader.Int32("policy", policy)) {
-        state_.SetDiscoveryPolicy(policy);
-        writer.Bool("result", true);
+    writer.Bool("result", state.Listeners().Clear(ListenerKind::COMMON_RECEIVE));
+}
+
+template <bool SUSPEND>
+void OnWifiScanning(ShareServiceState& state, RequestReader& reader, ReplyWriter& writer)
+{
+    std::string ifName;
+    if (reader.String("ifName", ifName)) {
+        writer.Bool("result", state.SetWifiScanning(ifName, SUSPEND));
     }
 }
 
-void ShareServiceStub::OnSetAccountPermission(RequestReader& reader, ReplyWriter& writer)
-{
-    int32_t permission = 0;
-    if (reader.Int32("permission", permission)) {
-        state_.SetAccountPermission(permission);
-        writer.Bool("result", true);
-    }
-}
-
-void ShareServiceStub::OnUnRegisterCommonReceiveListener(RequestReader& reader, ReplyWriter& writer)
-{
-    (void)reader;
-    writer.Bool("result", state_.ClearListeners(ListenerKind::COMMON_RECEIVE));
-}
-
-void ShareServiceStub::OnCollabDeviceFound(RequestReader& reader, ReplyWriter& writer)
+void OnCollabDeviceFound(ShareServiceState& state, RequestReader& reader, ReplyWriter& writer)
 {
     FoundDevice device;
     sptr<IRemoteObject> listener;
     int32_t updateFlag = 0;
     if (ReadFoundDevice(reader, device) && reader.RemoteObject("listener", listener) &&
         reader.Int32("updateFlag", updateFlag)) {
-        writer.Bool("result", !device.deviceId.empty() && state_.AddFoundDevice(device, listener));
+        writer.Bool("result", !device.deviceId.empty() && state.AddFoundDevice(device, listener));
     }
 }
 
-void ShareServiceStub::OnClearDiscovererFlag(RequestReader& reader, ReplyWriter& writer)
+void OnClearDiscovererFlag(ShareServiceState& state, RequestReader& reader, ReplyWriter& writer)
 {
     std::string deviceId;
     uint32_t flag = 0;
     if (reader.String("deviceId", deviceId) && reader.Uint32("flag", flag)) {
-        writer.Bool("result", state_.ClearDiscovererFlag(deviceId));
+        writer.Bool("result", state.ClearDiscovererFlag(deviceId));
     }
 }
 
-void ShareServiceStub::OnGetPontalPublishInfo(RequestReader& reader, ReplyWriter& writer)
+void OnGetPontalPublishInfo(ShareServiceState& state, RequestReader&, ReplyWriter& writer)
 {
-    (void)reader;
-    if (writer.String("publishInfo", state_.PublishInfo())) {
+    if (writer.String("publishInfo", state.PublishInfo())) {
         writer.Bool("result", true);
     }
 }
 
-void ShareServiceStub::OnReportSwingEvent(RequestReader& reader, ReplyWriter& writer)
+void OnReportSwingEvent(ShareServiceState& state, RequestReader& reader, ReplyWriter& writer)
 {
     int32_t gesture = 0;
     int32_t x = 0;
@@ -221,11 +167,11 @@ void ShareServiceStub::OnReportSwingEvent(RequestReader& reader, ReplyWriter& wr
     std::string concurrentId;
     if (reader.Int32("gesture", gesture) && reader.Int32("x", x) && reader.Int32("y", y) &&
         reader.String("concurrentId", concurrentId)) {
-        writer.Bool("result", state_.ListenerCount(ListenerKind::SWING) > 0);
+        writer.Bool("result", state.Listeners().Count(ListenerKind::SWING) > 0);
     }
 }
 
-void ShareServiceStub::OnApplyUriPermission(RequestReader& reader, ReplyWriter& writer)
+void OnApplyUriPermission(ShareServiceState&, RequestReader& reader, ReplyWriter& writer)
 {
     std::string deviceId;
     if (reader.String("deviceId", deviceId)) {
@@ -233,23 +179,50 @@ void ShareServiceStub::OnApplyUriPermission(RequestReader& reader, ReplyWriter& 
     }
 }
 
-void ShareServiceStub::OnGetPermanentDeviceList(RequestReader& reader, ReplyWriter& writer)
-{
-    (void)reader;
-    AnswerList(writer, "devices", state_.PermanentDevices(), WritePermanentEntry);
-}
-
-void ShareServiceStub::OnRemovePermanentDeviceById(RequestReader& reader, ReplyWriter& writer)
+void OnRemovePermanentDeviceById(ShareServiceState& state, RequestReader& reader, ReplyWriter& writer)
 {
     int32_t id = 0;
     if (reader.Int32("id", id)) {
-        writer.Bool("result", state_.RemovePermanentDevice(id));
+        writer.Bool("result", state.RemovePermanentDevice(id));
     }
 }
+} // namespace
 
-nlohmann::ordered_json ShareServiceStub::DumpState()
+ShareServiceStub::ShareServiceStub(ServiceChannels channels, std::vector<PermanentEntry> permanentDevices) :
+    StatefulServiceStub(SHARE_SERVICE_TOKEN, "ShareService", EMULATED_SHARE_SERVICE_ID, std::move(channels),
+                        std::move(permanentDevices))
 {
-    return state_.Dump();
+    Add(1, "PublishDevice", OnAddListener<ListenerKind::PUBLISH>);
+    Add(2, "UnPublishDevice", OnRemoveListenerById<ListenerKind::PUBLISH>);
+    Add(3, "SubscribeDevice", OnAddListener<ListenerKind::SUBSCRIBE>);
+    Add(4, "UnSubscribeDevice", OnRemoveListenerById<ListenerKind::SUBSCRIBE>);
+    Add(5, "RegisterReceiveListener", OnAddListener<ListenerKind::RECEIVE>);
+    Add(6, "UnRegisterReceiveListener", OnRemoveListener<ListenerKind::RECEIVE>);
+    Add(7, "SendFile(SendBean)", OnSendFile<ReadSendBean>);
+    Add(8, "SendFile(DataBean)", OnSendFile<ReadDataBean>);
+    Add(10, "SendBytes", OnSendBytes);
+    AddSetting(11, "EnableDiscoveryPolicy", "policy", &ShareServiceState::SetDiscoveryPolicy);
+    AddSetting(12, "SetAccountPermission", "permission", &ShareServiceState::SetAccountPermission);
+    Add(13, "Cancel", OnCancel);
+    Add(14, "CommonShareSend", OnCommonShareSend);
+    Add(15, "RegisterCommonReceiveListener", OnAddListener<ListenerKind::COMMON_RECEIVE>);
+    Add(16, "UnRegisterCommonReceiveListener", OnUnRegisterCommonReceiveListener);
+    Add(17, "SuspendWifiScanning", OnWifiScanning<true>);
+    Add(18, "ResumeWifiScanning", OnWifiScanning<false>);
+    Add(19, "OnCollabDeviceFound", OnCollabDeviceFound);
+    Add(20, "ClearDiscovererFlag", OnClearDiscovererFlag);
+    Add(21, "GetPontalPublishInfo", OnGetPontalPublishInfo);
+    Add(22, "SwingSubscribe", OnAddListener<ListenerKind::SWING>);
+    Add(23, "SwingUnSubscribe", OnRemoveListener<ListenerKind::SWING>);
+    Add(24, "ReportSwingEvent", OnReportSwingEvent);
+    Add(25, "ApplyUriPermission", OnApplyUriPermission);
+    Add(26, "GetPermanentDeviceList", &ShareServiceStub::OnGetPermanentDeviceList);
+    Add(27, "RemovePermanentDeviceById", OnRemovePermanentDeviceById);
+}
+
+void ShareServiceStub::OnGetPermanentDeviceList(RequestReader&, ReplyWriter& writer)
+{
+    AnswerList(writer, "devices", state_.PermanentDevices(), WritePermanentEntry);
 }
 
 } // namespace Zelkon

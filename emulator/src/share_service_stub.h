@@ -15,56 +15,26 @@
 
 /*
  * The emulated share service (ZelkonService): decodes request codes 1 to 27 from the request layouts and answers
- * from its state. Transfers answer with a sender object.
+ * from its state. Transfers answer with a sender object. Requests that need the state alone are handled by free
+ * functions given the state; the list reply, with its faults, is the service's own.
  */
 #ifndef SHARE_SERVICE_STUB_H
 #define SHARE_SERVICE_STUB_H
 
 #include <vector>
 
-#include "emulated_service_stub.h"
 #include "share_service_state.h"
+#include "stateful_service_stub.h"
 
 namespace OHOS {
 namespace Zelkon {
 
-class ShareServiceStub : public EmulatedServiceStub {
+class ShareServiceStub : public StatefulServiceStub<ShareServiceState> {
 public:
     ShareServiceStub(ServiceChannels channels, std::vector<PermanentEntry> permanentDevices);
 
 private:
-    using ListenerKind = ShareServiceState::ListenerKind;
-
-    template <ListenerKind KIND>
-    void OnAddListener(RequestReader& reader, ReplyWriter& writer);
-    template <ListenerKind KIND>
-    void OnRemoveListener(RequestReader& reader, ReplyWriter& writer);
-    template <ListenerKind KIND>
-    void OnRemoveListenerById(RequestReader& reader, ReplyWriter& writer);
-    void OnSendFileWithSendBean(RequestReader& reader, ReplyWriter& writer);
-    void OnSendFileWithDataBean(RequestReader& reader, ReplyWriter& writer);
-    void OnSendBytes(RequestReader& reader, ReplyWriter& writer);
-    void OnCommonShareSend(RequestReader& reader, ReplyWriter& writer);
-    void OnCancel(RequestReader& reader, ReplyWriter& writer);
-    void OnEnableDiscoveryPolicy(RequestReader& reader, ReplyWriter& writer);
-    void OnSetAccountPermission(RequestReader& reader, ReplyWriter& writer);
-    void OnUnRegisterCommonReceiveListener(RequestReader& reader, ReplyWriter& writer);
-    template <bool SUSPEND>
-    void OnWifiScanning(RequestReader& reader, ReplyWriter& writer);
-    void OnCollabDeviceFound(RequestReader& reader, ReplyWriter& writer);
-    void OnClearDiscovererFlag(RequestReader& reader, ReplyWriter& writer);
-    void OnGetPontalPublishInfo(RequestReader& reader, ReplyWriter& writer);
-    void OnReportSwingEvent(RequestReader& reader, ReplyWriter& writer);
-    void OnApplyUriPermission(RequestReader& reader, ReplyWriter& writer);
     void OnGetPermanentDeviceList(RequestReader& reader, ReplyWriter& writer);
-    void OnRemovePermanentDeviceById(RequestReader& reader, ReplyWriter& writer);
-
-    // deviceId, timeout, callback, package name and event type, as the two file transfers carry them.
-    bool ReadSendParams(RequestReader& reader, std::string& deviceId);
-    void AnswerSender(ReplyWriter& writer, const std::string& deviceId, const TransferPayload& payload);
-    nlohmann::ordered_json DumpState() override;
-
-    ShareServiceState state_;
 };
 
 } // namespace Zelkon

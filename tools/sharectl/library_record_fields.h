@@ -23,6 +23,7 @@
 #define LIBRARY_RECORD_FIELDS_H
 
 #include "emulated_record_fields.h"
+#include "json_field_list.h"
 #include "share_client.h"
 #include "share_manager_client.h"
 
@@ -35,70 +36,21 @@ UserEntry FieldListOf(const ShareDeviceInfo&);
 PermanentEntry FieldListOf(const PermanentDeviceInfo&);
 AccountEntry FieldListOf(const ShareAccountInfo&);
 
-template <typename Visitor>
-void VisitFields(Visitor& visitor, FileItem& file)
-{
-    visitor.Field("uri", file.uri);
-    visitor.Field("name", file.name);
-    visitor.Field("size", file.size);
-}
+JSON_FIELD_LIST(FileItem, uri, name, size)
 
-template <typename Visitor>
-void VisitFields(Visitor& visitor, SendBean& sendBean)
-{
-    visitor.Field("previewText", sendBean.previewText);
-    visitor.Field("files", sendBean.files);
-}
+JSON_FIELD_LIST(SendBean, previewText, files)
 
-template <typename Visitor>
-void VisitFields(Visitor& visitor, DataBean& dataBean)
-{
-    visitor.Field("fileName", dataBean.fileName);
-    visitor.Field("fileSize", dataBean.fileSize);
-    visitor.Field("fd", dataBean.fd);
-}
+JSON_FIELD_LIST(DataBean, fileName, fileSize, fd)
 
-template <typename Visitor>
-void VisitFields(Visitor& visitor, BytesInfo& bytesInfo)
-{
-    visitor.Field("mimeType", bytesInfo.mimeType);
-    visitor.Field("bytes", bytesInfo.bytes);
-}
+JSON_FIELD_LIST(BytesInfo, mimeType, bytes)
 
-template <typename Visitor>
-void VisitFields(Visitor& visitor, ShareItem& item)
-{
-    visitor.Field("uri", item.uri);
-    visitor.Field("fd", item.fd);
-}
+JSON_FIELD_LIST(ShareItem, uri, fd)
 
-template <typename Visitor>
-void VisitFields(Visitor& visitor, CommonShareObject& share)
-{
-    visitor.Field("type", share.type);
-    visitor.Field("timeout", share.timeout);
-    visitor.Field("items", share.items);
-    visitor.Field("content", share.content);
-    visitor.Field("networkId", share.networkId);
-    visitor.Field("resumable", share.resumable);
-}
+JSON_FIELD_LIST(CommonShareObject, type, timeout, items, content, networkId, resumable)
 
-template <typename Visitor>
-void VisitFields(Visitor& visitor, ShareDevice& device)
-{
-    visitor.Field("deviceId", device.deviceId);
-    visitor.Field("deviceName", device.deviceName);
-    visitor.Field("nbVersion_", device.nbVersion_);
-    visitor.Field("ohFlag_", device.ohFlag_);
-}
+JSON_FIELD_LIST(ShareDevice, deviceId, deviceName, nbVersion_, ohFlag_)
 
-template <typename Visitor>
-void VisitFields(Visitor& visitor, TransmitParam& param)
-{
-    visitor.Field("deviceId", param.deviceId);
-    visitor.Field("timeout", param.timeout);
-    visitor.Field("transmitEventType", param.transmitEventType);
-}
+JSON_FIELD_LIST(TransmitParam, deviceId, timeout, transmitEventType)
 
 } // namespace Zelkon
 } // namespace OHOS
