@@ -57,6 +57,17 @@ inline std::vector<pid_t> ChildrenOf(pid_t parent)
     return children;
 }
 
+// The command line of the process, its arguments separated by spaces; empty once it has ended.
+inline std::string CommandLineOf(pid_t pid)
+{
+    std::ifstream file("/proc/" + std::to_string(pid) + "/cmdline");
+    std::string line;
+    for (std::string argument; std::getline(file, argument, '\0');) {
+        line += (line.empty() ? "" : " ") + argument;
+    }
+    return line;
+}
+
 // The process has ended: reaped, or a zombie that its parent (init, for an orphan) has yet to reap.
 inline bool Gone(pid_t pid)
 {

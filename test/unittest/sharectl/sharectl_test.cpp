@@ -50,6 +50,7 @@ namespace {
 
 using OHOS::Zelkon::BlockedInPipeWrite;
 using OHOS::Zelkon::ChildrenOf;
+using OHOS::Zelkon::CommandLineOf;
 using OHOS::Zelkon::Eventually;
 using OHOS::Zelkon::Gone;
 
@@ -360,6 +361,11 @@ TEST(SharectlProcessesTest, ServeKeepsItsStateForTheInvocationsThatJoinIt)
 
     const std::vector<pid_t> services = ChildrenOf(serve.Pid());
     EXPECT_EQ(services.size(), 3u) << "the share service, its next process held, and the share manager service";
+    // The running share service is a process that was held and released: its command line is still the held one's.
+    EXPECT_EQ(
+        std::count_if(services.begin(), services.end(),
+                      [](pid_t pid) { return CommandLineOf(pid).find("--held-by-starter") != std::string::npos; }),
+        2);
     serve.Stop();
     for (pid_t service : services) {
         EXPECT_TRUE(Eventually([service] { return Gone(service); })) << "service process " << service << " is left";
