@@ -54,8 +54,8 @@ ConnectionQuota::Slot ConnectionQuota::Take(const PeerCredentials& peer)
     }
     ++ofUid.count;
     ++ofPid.count;
-    return Slot(new PeerCredentials(peer), [](const PeerCredentials* held) {
-        OfProcess().Release(*held);
+    return Slot(new PeerCredentials(peer), [this](const PeerCredentials* held) {
+        Release(*held);
         delete held;
     });
 }

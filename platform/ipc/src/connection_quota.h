@@ -43,7 +43,7 @@ public:
     // Refusals less than this apart are one burst, logged once.
     static constexpr std::chrono::seconds BURST_GAP{1};
 
-    // A connection's place in the quota, given back when the last copy goes.
+    // A connection's place in the quota, given back to it when the last copy goes: the quota outlives its slots.
     using Slot = std::shared_ptr<const PeerCredentials>;
 
     static ConnectionQuota& OfProcess();
