@@ -106,9 +106,9 @@ bool EmulatorProcesses::Serve(const Options& options)
     auto pending = std::make_shared<PendingFaults>(std::move(serviceFaults));
     const std::string worldFile = WorldFileOf(options.world);
     // The share service serves the permanent devices alone; its process reads no more of the world on its load's way.
-    EmulatedWorld permanentDevices;
-    permanentDevices.permanentDevices = options.world.permanentDevices;
-    const std::string shareServiceWorldFile = WorldFileOf(permanentDevices);
+    EmulatedWorld shareServiceWorld;
+    shareServiceWorld.permanentDevices = options.world.permanentDevices;
+    const std::string shareServiceWorldFile = WorldFileOf(shareServiceWorld);
     const std::string& executable = options.serviceExecutable;
     SamgrHostControl::RegisterProcess(EMULATED_SHARE_SERVICE_ID, [executable, shareServiceWorldFile, pending] {
         std::vector<std::string> line =
