@@ -347,6 +347,14 @@ TEST(SharectlProcessesTest, ServeKeepsItsStateForTheInvocationsThatJoinIt)
         std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
     ASSERT_EQ(access(socket.c_str(), F_OK), 0) << "sharectl serve made no socket";
+    // It starts the share manager service only once the share service's next process is held and ready; a join
+    // before that would race that process's start (seconds under an emulator) with the client's 200 ms.
+    const auto managerServiceStarted = [&serve] {
+        const std::vector<pid_t> services = ChildrenOf(serve.Pid());
+        return std::any_of(services.begin(), services.end(),
+                           [](pid_t pid) { return CommandLineOf(pid).find("ability 65570") != std::string::npos; });
+    };
+    ASSERT_TRUE(Eventually(managerServiceStarted, std::chrono::seconds(10)));
     const std::string join = "--socket " + socket + " --processes ";
 
     const Outcome removed = RunSharectl(join + "remove-device 2");
